@@ -1,0 +1,28 @@
+#include "catalog.h"
+
+#include <cstring>
+
+namespace {
+const CatalogGroup *const groups[] = {
+    &catalog_core,  &catalog_system, &catalog_network,    &catalog_audio_storage, &catalog_traffic,
+    &catalog_ptz,   &catalog_camera, &catalog_video,      &catalog_event,         &catalog_iot,
+    &catalog_capability, &catalog_vca, &catalog_lpr,
+};
+} // namespace
+
+std::vector<const CatalogEntry *> catalog_entries()
+{
+    std::vector<const CatalogEntry *> all;
+    for (const CatalogGroup *group : groups)
+        for (size_t i = 0; i < group->count; ++i)
+            all.push_back(&group->entries[i]);
+    return all;
+}
+
+const CatalogEntry *catalog_find(const char *name)
+{
+    for (const CatalogEntry *entry : catalog_entries())
+        if (strcmp(entry->name, name) == 0)
+            return entry;
+    return nullptr;
+}

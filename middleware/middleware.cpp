@@ -1,0 +1,327 @@
+/*
+ * middleware.cpp - the core: the serializer contract, the reply envelopes,
+ * the format test, the file reader, the node-building and request-reading
+ * helpers and the event-name tables.
+ */
+#include "internal.h"
+
+#include "zk_platform.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <unistd.h>
+
+namespace mw {
+
+int32_t print_document(cJSON *root, char *dst, int32_t dstSize)
+{
+    char *text = cJSON_Print(root);
+    cJSON_Delete(root);
+    if (text == nullptr)
+        return -1;
+    if (buffer_usable(dst, dstSize))
+        snprintf(dst, static_cast<size_t>(dstSize), "%s", text);
+    cJSON_free(text);
+    return 0;
+}
+
+void add_text(cJSON *o, const char *key, const char *text, size_t capacity)
+{
+    if (memchr(text, '\0', capacity) != nullptr) {
+        cJSON_AddStringToObject(o, key, text);
+        return;
+    }
+    // An unterminated field: write what the array holds and no more.
+    char *copy = static_cast<char *>(malloc(capacity + 1));
+    if (copy == nullptr)
+        return;
+    memcpy(copy, text, capacity);
+    copy[capacity] = '\0';
+    cJSON_AddStringToObject(o, key, copy);
+    free(copy);
+}
+
+cJSON *object(cJSON *parent, const char *key)
+{
+    cJSON *child = nullptr;
+    if (parent != nullptr)
+        json_set_element_struct(parent, &child, key);
+    return child;
+}
+
+cJSON *array(cJSON *parent, const char *key)
+{
+    cJSON *child = nullptr;
+    if (parent != nullptr)
+        json_set_array_struct(parent, &child, key);
+    return child;
+}
+
+cJSON *append_object(cJSON *array)
+{
+    if (array == nullptr)
+        return nullptr;
+    cJSON *item = cJSON_CreateObject();
+    if (item != nullptr && !cJSON_AddItemToArray(array, item)) {
+        cJSON_Delete(item);
+        return nullptr;
+    }
+    return item;
+}
+
+void format_into(char *out, size_t size, const char *format, va_list args)
+{
+    vsnprintf(out, size, format, args);
+}
+
+void add_schedule_list(cJSON *parent, const char *firstDay, size_t dayStride)
+{
+    cJSON *list = array(parent, "scheduleList");
+    for (int32_t d = 0; d < 7; ++d) {
+        cJSON *day = append_object(list);
+        add(day, "scheduleIndex", d);
+        add_text(day, "schedule", firstDay + static_cast<size_t>(d) * dayStride, dayStride);
+    }
+}
+
+PolygonText polygon_text(const int32_t *values, size_t count)
+{
+    PolygonText p;
+    memset(p.text, 0, sizeof p.text);
+    for (size_t j = 0; j < count; ++j) {
+        size_t used = strlen(p.text);
+        snprintf(p.text + used, sizeof p.text - used, "%d:", static_cast<int>(values[j]));
+    }
+    return p;
+}
+
+} // namespace mw
+
+/* ---- reply envelopes ---- */
+
+int32_t zk_return_get_request_empty_json(char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [](cJSON *) {});
+}
+
+int32_t zk_return_set_request_succeed_json(char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [](cJSON *root) { mw::add_string(root, "setState", "succeed"); });
+}
+
+int32_t zk_return_set_request_faild_json(char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [](cJSON *root) { mw::add_string(root, "setState", "failed"); });
+}
+
+int32_t zk_return_format_error_json(char *dst, int32_t dstSize, const char *key)
+{
+    return mw::document(dst, dstSize, [key](cJSON *root) { mw::add_string(root, key, "format error"); });
+}
+
+int32_t zk_check_format_json(const char *query)
+{
+    return strstr(query, "format=json") != nullptr ? 1 : 0;
+}
+
+char *getJsonBuff(int32_t fd, int32_t length)
+{
+    if (fd == 0 || length <= 0)
+        return nullptr;
+    char *buffer = static_cast<char *>(__zk_malloc(static_cast<size_t>(length) + 1, "middleware.c", 112));
+    if (buffer == nullptr)
+        return nullptr;
+    lseek(fd, 0, SEEK_SET);
+    ssize_t got = read(fd, buffer, static_cast<size_t>(length));
+    (void)got; // a short read is not reported; see the header
+    buffer[length] = '\0';
+    return buffer;
+}
+
+/* ---- node building ---- */
+
+int32_t json_set_element_struct(cJSON *parent, cJSON **outChild, const char *key)
+{
+    *outChild = cJSON_CreateObject();
+    if (*outChild == nullptr)
+        return -1;
+    cJSON_AddItemToObject(parent, key, *outChild);
+    return 1;
+}
+
+int32_t json_set_array_struct(cJSON *parent, cJSON **outArray, const char *key)
+{
+    *outArray = cJSON_CreateArray();
+    if (*outArray == nullptr)
+        return -1;
+    cJSON_AddItemToObject(parent, key, *outArray);
+    return 1;
+}
+
+/* ---- request reading ---- */
+
+namespace {
+
+/* The first element of object[arrayKey] whose member memberKey satisfies
+   `matches`. */
+template <typename Match>
+cJSON *find_element(cJSON *object, const char *arrayKey, const char *memberKey, Match &&matches)
+{
+    if (object == nullptr || arrayKey == nullptr || memberKey == nullptr)
+        return nullptr;
+    cJSON *list = cJSON_GetObjectItem(object, arrayKey);
+    if (list == nullptr)
+        return nullptr;
+    int size = cJSON_GetArraySize(list);
+    for (int i = 0; i < size; ++i) {
+        cJSON *element = cJSON_GetArrayItem(list, i);
+        if (element == nullptr)
+            continue;
+        cJSON *member = cJSON_GetObjectItem(element, memberKey);
+        if (member != nullptr && matches(member))
+            return element;
+    }
+    return nullptr;
+}
+
+/* The number readers: -1 for a NULL argument or an absent key; 0 when the
+   key is present, with *wrongType telling whether *out was set. */
+template <typename T, typename Read>
+int32_t read_number(cJSON *object, const char *key, T *out, int32_t *wrongType, Read &&value)
+{
+    if (object == nullptr || key == nullptr || out == nullptr)
+        return -1;
+    cJSON *member = cJSON_GetObjectItem(object, key);
+    if (member == nullptr)
+        return -1;
+    if (member->type != cJSON_Number) {
+        *wrongType = 1;
+        return 0;
+    }
+    *wrongType = 0;
+    *out = value(member);
+    return 0;
+}
+
+} // namespace
+
+cJSON *get_json_array_struct_from_index(cJSON *object, const char *arrayKey, const char *memberKey,
+                                        int32_t index)
+{
+    return find_element(object, arrayKey, memberKey,
+                        [index](const cJSON *member) { return member->valueint == index; });
+}
+
+cJSON *get_json_array_struct_from_string(cJSON *object, const char *arrayKey, const char *memberKey,
+                                         const char *value)
+{
+    return find_element(object, arrayKey, memberKey,
+                        [value](const cJSON *member) { return strcmp(member->valuestring, value) == 0; });
+}
+
+cJSON *get_json_object(cJSON *object, const char *key)
+{
+    if (object == nullptr || key == nullptr)
+        return nullptr;
+    return cJSON_GetObjectItem(object, key);
+}
+
+int32_t get_json_section_type_int(cJSON *object, const char *key, int32_t *out, int32_t *wrongType)
+{
+    return read_number(object, key, out, wrongType, [](const cJSON *m) { return static_cast<int32_t>(m->valueint); });
+}
+
+int32_t get_json_section_type_double(cJSON *object, const char *key, double *out, int32_t *wrongType)
+{
+    return read_number(object, key, out, wrongType, [](const cJSON *m) { return m->valuedouble; });
+}
+
+int32_t get_json_section_type_string(cJSON *object, const char *key, char *out, int32_t outSize,
+                                     int32_t *wrongType)
+{
+    if (object == nullptr || key == nullptr || out == nullptr)
+        return -1;
+    cJSON *member = cJSON_GetObjectItem(object, key);
+    if (member == nullptr)
+        return -1;
+    if (member->type != cJSON_String) {
+        out[0] = '\0';
+        *wrongType = 1;
+        return 1;
+    }
+    if (member->valuestring == nullptr)
+        return -1;
+    if (member->valuestring[0] == '\0') {
+        out[0] = '\0';
+        return 0;
+    }
+    *wrongType = 0;
+    snprintf(out, static_cast<size_t>(outSize), "%s", member->valuestring);
+    return 1;
+}
+
+int32_t get_json_section_type_int_array(cJSON *object, const char *key, int32_t *out, int32_t max,
+                                        int32_t *wrongType)
+{
+    if (object == nullptr || key == nullptr || out == nullptr)
+        return -1;
+    cJSON *list = cJSON_GetObjectItem(object, key);
+    if (list == nullptr || list->type != cJSON_Array) {
+        *wrongType = 1;
+        return -1;
+    }
+    int size = cJSON_GetArraySize(list);
+    for (int32_t i = 0; i < size && i < max; ++i) {
+        cJSON *element = cJSON_GetArrayItem(list, i);
+        if (element == nullptr || element->type != cJSON_Number) {
+            *wrongType = 1;
+            return -1;
+        }
+        out[i] = element->valueint;
+    }
+    *wrongType = 0;
+    return 1;
+}
+
+/* ---- event names ---- */
+
+namespace {
+
+/* Alarm event types as the JSON documents name them. The odd spellings are
+   the documents' own: "douput" for the digital outputs, "nouser2"/"nouser3"
+   as placeholders, "vcaLinecrossing" without a digit. */
+const char *const alarm_event_names[48] = {
+    "motion",            "networkLost",      "audioIn",          "dinput",
+    "tamper",            "parkingViolation", "ipConflict",       "dinputExtra",
+    "irRect",            "vcaIntrusionEnter", "vcaIntrusionExit", "vcaLoitering",
+    "vcaAdvancedMotion", "vcaLinecrossing",  "vcaCounter",       "vcaHuman",
+    "vcaCtd",            "vcaFace",          "vcaRadar",         "face",
+    "vcaLinecrossing2",  "vcaLinecrossing3", "vcaLinecrossing4", "objectLeftRemove",
+    "lprBlack",          "lprWhite",         "lprVisitor",       "anr",
+    "motionSub",         "motionThird",      "motionFourth",     "motionFifth",
+    "recordFailed",      "sdFull",           "sdUninit",         "sdError",
+    "noSd",              "dinputThird",      "dinputFourth",     "regionalPeople1",
+    "helmet",            "lprattr",          "lprviolation",     "vehicleCounter",
+    "douput",            "douputExtra",      "nouser2",          "nouser3",
+};
+
+const char *const vca_event_names[11] = {
+    "vcaIntrusionEnter", "vcaIntrusionExit", "vcaAdvancedMotion", "tamperDefocus",
+    "lineCrossing",      "objectLoitering",  "humanDetection",    "peopleCountLine",
+    "objectLeftRemoved", "peopleCountRgn",   "vehicleCountLine",
+};
+
+template <size_t N>
+const char *name_at(const char *const (&table)[N], int32_t index)
+{
+    if (index < 0 || index > static_cast<int32_t>(N) - 1)
+        return nullptr;
+    return table[index];
+}
+
+} // namespace
+
+const char *getAlarmEventTypeString(int32_t index) { return name_at(alarm_event_names, index); }
+
+const char *getVcaEventTypeString(int32_t index) { return name_at(vca_event_names, index); }

@@ -1,0 +1,325 @@
+/*
+ * middleware.h - the JSON presentation library of the camera firmware.
+ *
+ * The web server keeps every configuration page and status report as a plain
+ * record. For a request whose query carries "format=json" it fills the page's
+ * record and calls the matching serializer, which prints the document into the
+ * caller's buffer:
+ *
+ *     system_information_record info;   // filled from the configuration
+ *     char body[16384];
+ *     if (get_system_information_json(&info, body, sizeof body) == 0)
+ *         send(body);
+ *
+ * Every serializer returns 0 on success and -1 on failure. It fails for a
+ * NULL buffer or a size below 1 without touching the buffer; on success the
+ * buffer holds the whole document in cJSON's formatted style (tabs, one member
+ * a line) or, when the document is longer, its first size-1 bytes, always
+ * followed by a NUL. Nothing reports the cut: compare strlen(dst) with
+ * size-1. Records are only read (the capability serializers excepted, which
+ * tokenize their option texts in place). Texts in records are NUL-terminated
+ * within their arrays. No function keeps state: all may be called
+ * concurrently on different buffers.
+ *
+ * The header is plain C (C11) and C++.
+ */
+#ifndef MIDDLEWARE_H
+#define MIDDLEWARE_H
+
+#include <stdint.h>
+#include <cjson/cJSON.h>
+
+#if defined(MIDDLEWARE_BUILD)
+#define MW_API __attribute__((visibility("default")))
+#else
+#define MW_API
+#endif
+
+/* A record member that C names `class` is spelled `class_` in C++; the member
+   and its place in the record are the same. */
+#ifdef __cplusplus
+#define MW_CLASS_MEMBER class_
+#else
+#define MW_CLASS_MEMBER class
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ===== core: reply envelopes, format test, file reader ===== */
+
+/* {} - the answer to a get request that has nothing to report. */
+MW_API int32_t zk_return_get_request_empty_json(char *dst, int32_t dstSize);
+/* {"setState": "succeed"} */
+MW_API int32_t zk_return_set_request_succeed_json(char *dst, int32_t dstSize);
+/* {"setState": "failed"} (the function's name keeps its historic spelling) */
+MW_API int32_t zk_return_set_request_faild_json(char *dst, int32_t dstSize);
+/* {key: "format error"}; the caller names the key, which must not be NULL. */
+MW_API int32_t zk_return_format_error_json(char *dst, int32_t dstSize, const char *key);
+
+/* 1 when "format=json" occurs anywhere in the query (case-sensitive), else 0.
+   The query must not be NULL. */
+MW_API int32_t zk_check_format_json(const char *query);
+
+/* Reads the first `length` bytes of the file behind `fd` (from its start,
+   wherever its position stood) into a new buffer of length+1 bytes, the last
+   one a NUL. The buffer comes from the platform allocator and belongs to the
+   caller. NULL for fd 0 (no file), for a length of 0 or below (a negative
+   length is refused too, since it cannot describe a buffer), or when the
+   allocation fails. A short read is not reported: the bytes past what was read
+   are as the allocator left them. */
+MW_API char *getJsonBuff(int32_t fd, int32_t length);
+
+/* ===== core: node building ===== */
+
+/* Creates an object (array) and stores it in *outChild (*outArray) at once,
+   NULL included; when it exists, hangs it under `key` in `parent` and returns
+   1, else returns -1. The arguments are not tested. */
+MW_API int32_t json_set_element_struct(cJSON *parent, cJSON **outChild, const char *key);
+MW_API int32_t json_set_array_struct(cJSON *parent, cJSON **outArray, const char *key);
+
+/* ===== core: request reading ===== */
+/* Member lookups follow cJSON_GetObjectItem (keys compare case-insensitively);
+   type tests compare the node's type with cJSON_Number, cJSON_String or
+   cJSON_Array exactly. */
+
+/* The first element of the array (or object) under arrayKey whose member
+   memberKey has the integer value `index` (a member that is not a number
+   counts as 0), or NULL. */
+MW_API cJSON *get_json_array_struct_from_index(cJSON *object, const char *arrayKey,
+                                               const char *memberKey, int32_t index);
+/* The same, matching the member's text against `value` with strcmp. The
+   member must be a string and `value` must not be NULL. */
+MW_API cJSON *get_json_array_struct_from_string(cJSON *object, const char *arrayKey,
+                                                const char *memberKey, const char *value);
+/* The member under key, or NULL (also for a NULL object or key). */
+MW_API cJSON *get_json_object(cJSON *object, const char *key);
+
+/* -1: a NULL argument or no such key (*wrongType untouched).
+    0: the key is present; *wrongType is 1 when it is not a number (*out
+       untouched), else 0 with the value in *out (an integer is cJSON's
+       truncation of the double). */
+MW_API int32_t get_json_section_type_int(cJSON *object, const char *key, int32_t *out,
+                                         int32_t *wrongType);
+MW_API int32_t get_json_section_type_double(cJSON *object, const char *key, double *out,
+                                            int32_t *wrongType);
+/* -1: a NULL argument, no such key, or a string node without text.
+    1: not a string (*wrongType 1, out emptied), or the text copied into out
+       (cut at outSize-1 bytes, *wrongType 0).
+    0: the empty string (out emptied, *wrongType untouched). */
+MW_API int32_t get_json_section_type_string(cJSON *object, const char *key, char *out,
+                                            int32_t outSize, int32_t *wrongType);
+/* Copies up to `max` numbers of the array under key into out.
+    1: all read elements were numbers (*wrongType 0);
+   -1: a NULL argument (flag untouched), or the key absent, not an array, or
+       an element read that is not a number (*wrongType 1; the elements
+       before it are already stored). */
+MW_API int32_t get_json_section_type_int_array(cJSON *object, const char *key, int32_t *out,
+                                               int32_t max, int32_t *wrongType);
+
+/* ===== core: event names ===== */
+
+/* The JSON name of an alarm event type (0..47) or of a VCA event type (0..10):
+   constant text, never to be freed. NULL above the last index, and for a
+   negative index. */
+MW_API const char *getAlarmEventTypeString(int32_t index);
+MW_API const char *getVcaEventTypeString(int32_t index);
+
+/* ===== system: device information ===== */
+
+/* The device-information page: identity, network state and the feature flags
+   that tell a client which pages this camera has (1 = supported). */
+typedef struct system_information_record {
+    char model[32];
+    char mac[32];
+    char firmwareVersion[32];
+    char systemBootTime[32];
+    int32_t wireless;                  /* 1 when the camera has a wireless interface */
+    int32_t dhcpEnable;
+    char ipaddress[32];
+    char netmask[32];
+    char gateway[32];
+    int32_t pppoeEnable;
+    char dns0[32];
+    char dns1[32];
+    int32_t ddnsEnable;
+    char ddnsHostName[32];
+    int32_t ddnsStatus;
+    int32_t wirelessEnable;
+    char deviceName[128];
+    char deviceLacation[32];           /* the device's location text; the key keeps this spelling */
+    char deviceInformation[32];
+    char deviceVender[32];
+    char hardwareVersion[32];
+    char kernelVersion[32];
+    char sdkVersion[32];
+    int32_t aiNnieStatus;
+    int32_t ioSupport;
+    int32_t audioSupport;
+    int32_t audioMode;
+    int32_t audioType;
+    int32_t audioLineInput;
+    int32_t alarmInputSupport;
+    int32_t alarmOutputSupport;
+    int32_t fisheyeSupport;
+    int32_t vcaSupport;
+    int32_t vcaType;
+    int32_t anrSupport;
+    int32_t speakerSupport;
+    int32_t lprSupport;
+    int32_t lprVersion;
+    int32_t radarSupport;
+    int32_t upgrade;
+    int32_t faceSupport;
+    int32_t polygonFaceSupport;
+    int32_t irSensor;
+    int32_t dnSensitivitySupport;
+    int32_t croproiSupport;
+    int32_t dnRefocusSupport;
+    int32_t reduceStutteringSupport;
+    int32_t polygonSupport;
+    int32_t localDisplaySupport;
+    int32_t fanWorkingModeSupport;
+    int32_t smartIrLimitType;
+    int32_t smartIrLimitSum;
+    int32_t audioFileManagerSupport;
+    int32_t humanVehicleSupport;
+    int32_t manualSpeedSupport;
+    char snCode[32];                   /* serial number shown on the information page */
+    int32_t mosaicSupport;
+    int32_t antiShakeSupport;
+    int32_t corridorModeSupport;
+    int32_t imageRotationSupport;
+    int32_t humanDetectionSupport;
+    int32_t regionalPeopleSupport;
+    int32_t heatMapSupport;
+    int32_t p2pSupport;
+    int32_t ptzSupport;
+    char zkChip[256];                  /* chip description */
+    int32_t runtime;                   /* running time */
+    int32_t adminoptions;
+    char adminuser[128];
+    int32_t miscAnonymous;
+    int32_t pwdStrengthType;
+    int32_t viewerdef;
+    int32_t viewerOptions;
+    int32_t oemIndex;
+    int32_t audioAlarmSupport;
+    int32_t ledSupport;
+    int32_t ledGroupSupport;
+    int32_t ptzMaxZoomTimes;
+    int32_t realPtzSupport;
+    int32_t isSpeedDm;
+    int32_t reserved0;                 /* not in the document */
+    int32_t reserved1;                 /* not in the document */
+    int32_t iotSupport;
+    int32_t supportOsdLarger;
+    int32_t autoTrackSupport;
+    int32_t smartStreamSupportInOtherStream;
+    int32_t wiperSupport;
+    int32_t oemupdateonline;
+    int32_t whiteLedSupport;
+    int32_t defogSupport;
+    int32_t manualTrackingSupport;
+    int32_t manualTrackingDisable;
+    int32_t threeDPositionSupport;     /* key "3DPositionSupport" */
+    int32_t rs485Support;
+    int32_t ptzStatusSupport;
+    int32_t heaterSupport;
+    int32_t reserved2;                 /* not in the document */
+    int32_t reserved3;                 /* not in the document */
+    int32_t ntFaceMosaicSupport;
+} system_information_record;
+
+/* Vendor, product name and model. The model text's width is ours to choose:
+   64 bytes hold every model name the firmware knows. */
+typedef struct system_model_record {
+    char devicevEnder[128];
+    char name[32];
+    char deviceModel[64];
+} system_model_record;
+
+/* The notice shown when a newer firmware is available (width chosen: 512). */
+typedef struct system_upgrade_info_record {
+    char upgradeInfo[512];
+} system_upgrade_info_record;
+
+/* The heartbeat answer to an online check: the running software version
+   (width chosen: 64). */
+typedef struct system_online_heart_record {
+    char softversion[64];
+} system_online_heart_record;
+
+/* 96 members in a fixed order; "isFaceCustomizeModeExists" is always 0. */
+MW_API int32_t get_system_information_json(const system_information_record *in, char *dst,
+                                           int32_t dstSize);
+MW_API int32_t get_system_model_json(const system_model_record *in, char *dst, int32_t dstSize);
+MW_API int32_t get_system_upgrade_info_json(const system_upgrade_info_record *in, char *dst,
+                                            int32_t dstSize);
+MW_API int32_t get_system_online_heart_json(const system_online_heart_record *in, char *dst,
+                                            int32_t dstSize);
+
+/* ===== end system: device information ===== */
+
+/* ===== system: settings and support information ===== */
+
+/* ===== end system: settings and support information ===== */
+
+/* ===== network ===== */
+
+/* ===== end network ===== */
+
+/* ===== audio and storage ===== */
+
+/* ===== end audio and storage ===== */
+
+/* ===== traffic and parking ===== */
+
+/* ===== end traffic and parking ===== */
+
+/* ===== ptz ===== */
+
+/* ===== end ptz ===== */
+
+/* ===== camera image ===== */
+
+/* ===== end camera image ===== */
+
+/* ===== video ===== */
+
+/* ===== end video ===== */
+
+/* ===== events: alarm actions per event type ===== */
+
+/* ===== end events: alarm actions per event type ===== */
+
+/* ===== events: sources, upload servers, global switches ===== */
+
+/* ===== end events: sources, upload servers, global switches ===== */
+
+/* ===== iot: radio, profiles, devices, sensor alarms ===== */
+
+/* ===== end iot: radio, profiles, devices, sensor alarms ===== */
+
+/* ===== iot: alarm actions per rule ===== */
+
+/* ===== end iot: alarm actions per rule ===== */
+
+/* ===== capabilities ===== */
+
+/* ===== end capabilities ===== */
+
+/* ===== vca ===== */
+
+/* ===== end vca ===== */
+
+/* ===== lpr ===== */
+
+/* ===== end lpr ===== */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* MIDDLEWARE_H */

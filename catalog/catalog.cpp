@@ -4,9 +4,10 @@
 
 namespace {
 const CatalogGroup *const groups[] = {
-    &catalog_core,  &catalog_system, &catalog_network,    &catalog_audio_storage, &catalog_traffic,
-    &catalog_ptz,   &catalog_camera, &catalog_video,      &catalog_event,         &catalog_iot,
-    &catalog_capability, &catalog_vca, &catalog_lpr,
+    &catalog_core,          &catalog_system,        &catalog_network,     &catalog_audio_storage,
+    &catalog_traffic,       &catalog_ptz,           &catalog_camera,      &catalog_video,
+    &catalog_event_actions, &catalog_event_sources, &catalog_iot_devices, &catalog_iot_actions,
+    &catalog_capability,    &catalog_vca,           &catalog_lpr,
 };
 } // namespace
 

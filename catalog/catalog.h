@@ -37,7 +37,7 @@ constexpr CatalogGroup catalog_group(const char *name, const CatalogEntry (&entr
     return CatalogGroup{name, entries, N};
 }
 
-// One group per serializer source, in catalog/<group>.cpp.
+// One group per serializer family, in catalog/<group>.cpp.
 extern const CatalogGroup catalog_core;
 extern const CatalogGroup catalog_system;
 extern const CatalogGroup catalog_network;
@@ -46,8 +46,10 @@ extern const CatalogGroup catalog_traffic;
 extern const CatalogGroup catalog_ptz;
 extern const CatalogGroup catalog_camera;
 extern const CatalogGroup catalog_video;
-extern const CatalogGroup catalog_event;
-extern const CatalogGroup catalog_iot;
+extern const CatalogGroup catalog_event_actions;
+extern const CatalogGroup catalog_event_sources;
+extern const CatalogGroup catalog_iot_devices;
+extern const CatalogGroup catalog_iot_actions;
 extern const CatalogGroup catalog_capability;
 extern const CatalogGroup catalog_vca;
 extern const CatalogGroup catalog_lpr;

@@ -126,6 +126,55 @@ MW_API int32_t get_json_section_type_int_array(cJSON *object, const char *key, i
 MW_API const char *getAlarmEventTypeString(int32_t index);
 MW_API const char *getVcaEventTypeString(int32_t index);
 
+/* ===== layouts shared by two groups ===== */
+
+/* The DDNS settings from the enable byte on. The network DDNS page record
+   starts with one more word; the support-information record embeds the block
+   as it stands, so both read the same bytes. The widths of userName and of
+   the password no key reads are ours: 64 bytes each; `reserved1` holds the
+   provider's bookkeeping (update interval, last result and the like). */
+#define MW_NETWORK_DDNS_SETTINGS_FIELDS                                         \
+    uint8_t enable;                                                          \
+    uint8_t reserved0[2];        /* not in the documents */                  \
+    char userName[64];                                                       \
+    char password[64];           /* not in the documents */                  \
+    char provider[64];                                                       \
+    char hostName[128];                                                      \
+    char hash[128];                                                          \
+    char url[128];                                                           \
+    uint32_t httpPort;                                                       \
+    uint32_t rtspPort;                                                       \
+    uint32_t playbackPort;                                                   \
+    char hostIp[128];                                                        \
+    int32_t oemzkDisplay;                                                    \
+    int32_t oemIndex;                                                        \
+    int32_t reserved1[4];        /* not in the documents */                  \
+    int32_t status;
+
+typedef struct network_ddns_settings {
+    MW_NETWORK_DDNS_SETTINGS_FIELDS
+} network_ddns_settings;
+
+typedef struct network_ddns_record {
+    int32_t reserved;            /* not in the document */
+    MW_NETWORK_DDNS_SETTINGS_FIELDS
+} network_ddns_record;
+
+/* A stored preset slot: the position it returns to and its name. Shared by
+   the PTZ presets and the fisheye presets. `reserved0` and `reserved1` belong
+   to the motor controller (speed and dwell) and are not in the documents. */
+typedef struct ptz_preset_entry {
+    double firstCoordinate;
+    double secondCoordinate;
+    int32_t leadingNumber;       /* printed first in the preset text */
+    int32_t reserved0;
+    int32_t id;                  /* 0 marks an empty slot */
+    int32_t reserved1;
+    char name[68];
+} ptz_preset_entry;
+
+/* ===== end layouts shared by two groups ===== */
+
 /* ===== system: device information ===== */
 
 /* The device-information page: identity, network state and the feature flags
@@ -268,38 +317,6 @@ MW_API int32_t get_system_online_heart_json(const system_online_heart_record *in
 
 /* ===== network ===== */
 
-/* The DDNS settings from the enable byte on. The network DDNS page record
-   starts with one more word; the support-information record embeds the block
-   as it stands, so both read the same bytes. The widths of userName and of
-   the texts no key reads are ours: 64 bytes each; `reserved` holds the
-   provider's bookkeeping (update interval, last result and the like). */
-#define MW_NETWORK_DDNS_SETTINGS_FIELDS                                         \
-    uint8_t enable;                                                          \
-    uint8_t reserved0[2];        /* not in the documents */                  \
-    char userName[64];                                                       \
-    char password[64];           /* not in the documents */                  \
-    char provider[64];                                                       \
-    char hostName[128];                                                      \
-    char hash[128];                                                          \
-    char url[128];                                                           \
-    uint32_t httpPort;                                                       \
-    uint32_t rtspPort;                                                       \
-    uint32_t playbackPort;                                                   \
-    char hostIp[128];                                                        \
-    int32_t oemzkDisplay;                                                    \
-    int32_t oemIndex;                                                        \
-    int32_t reserved1[4];        /* not in the documents */                  \
-    int32_t status;
-
-typedef struct network_ddns_settings {
-    MW_NETWORK_DDNS_SETTINGS_FIELDS
-} network_ddns_settings;
-
-typedef struct network_ddns_record {
-    int32_t reserved;            /* not in the document */
-    MW_NETWORK_DDNS_SETTINGS_FIELDS
-} network_ddns_record;
-
 /* ===== end network ===== */
 
 /* ===== audio and storage ===== */
@@ -311,19 +328,6 @@ typedef struct network_ddns_record {
 /* ===== end traffic and parking ===== */
 
 /* ===== ptz ===== */
-
-/* A stored preset slot: the position it returns to and its name. Shared by
-   the PTZ presets and the fisheye presets. `reserved0` and `reserved1` belong
-   to the motor controller (speed and dwell) and are not in the documents. */
-typedef struct ptz_preset_entry {
-    double firstCoordinate;
-    double secondCoordinate;
-    int32_t leadingNumber;       /* printed first in the preset text */
-    int32_t reserved0;
-    int32_t id;                  /* 0 marks an empty slot */
-    int32_t reserved1;
-    char name[68];
-} ptz_preset_entry;
 
 /* ===== end ptz ===== */
 

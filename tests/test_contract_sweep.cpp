@@ -4,6 +4,7 @@
 #include "catalog.h"
 #include "support.h"
 
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -87,6 +88,39 @@ TEST_P(ContractSweep, TruncationGivesAnExactPrefix)
         for (size_t i = kept + 1; i < buffer.size(); ++i)
             ASSERT_EQ(buffer[i], kUntouched) << "size " << size << ": byte " << i << " was written";
     }
+}
+
+// cJSON allocates through hooks; these fail every allocation after the first
+// `budget` ones.
+long budget = 0;
+void *failing_malloc(size_t size) { return budget-- > 0 ? malloc(size) : nullptr; }
+
+TEST_P(ContractSweep, RunningOutOfMemoryFailsCleanly)
+{
+    // However early memory runs out, the call either fails without touching
+    // the buffer or succeeds; nothing leaks (the sanitizer build checks that).
+    std::vector<char> buffer(test::kLargeBuffer);
+    cJSON_Hooks hooks{failing_malloc, free};
+    cJSON_InitHooks(&hooks);
+    budget = 1L << 40;
+    GetParam()->render(buffer.data(), test::kLargeBuffer);
+    const long needed = (1L << 40) - budget;
+    std::vector<long> budgets;
+    for (long b = 0; b < 24 && b < needed; ++b)
+        budgets.push_back(b);
+    for (long k = 1; k < 24; ++k)
+        budgets.push_back(needed * k / 24);
+    for (long allowed : budgets) {
+        buffer[0] = 'x';
+        budget = allowed;
+        int32_t rc = GetParam()->render(buffer.data(), test::kLargeBuffer);
+        if (rc == -1)
+            EXPECT_EQ(buffer[0], 'x') << allowed << " allocations: a failed call wrote into the buffer";
+        else
+            EXPECT_EQ(rc, 0) << allowed << " allocations";
+    }
+    cJSON_InitHooks(nullptr);
+    EXPECT_GT(needed, 0);
 }
 
 std::string entry_name(const ::testing::TestParamInfo<const CatalogEntry *> &info) { return info.param->name; }

@@ -105,6 +105,79 @@ system_information_record sample_information()
     return r;
 }
 
+// The accounts of a camera run by a car-park operator: the administrator,
+// an operator who may steer the dome and a viewer.
+system_user_record sample_users()
+{
+    system_user_record r{};
+    r.miscAnonymous = 0;
+    struct Account {
+        int slot;
+        const char *name;
+        uint8_t level;
+        int32_t privilege;
+        uint8_t permissions[4];
+    };
+    const Account accounts[] = {
+        {0, "admin", 0, 255, {1, 1, 1, 1}},
+        {1, "operator", 1, 63, {1, 1, 0, 1}},
+        {3, "gatehouse", 2, 1, {1, 0, 0, 0}},
+    };
+    const char *modules[4] = {"live", "playback", "setup", "ptz"};
+    for (const Account &a : accounts) {
+        system_user_entry &u = r.users[a.slot];
+        put(u.userName, a.name);
+        put(u.passwordHash, "$6$c0ffee$3f9a1c...");
+        u.userLevel = a.level;
+        u.privilege = a.privilege;
+        for (int m = 0; m < 4; ++m) {
+            put(u.modulePermissions[m].module, modules[m]);
+            u.modulePermissions[m].permission = a.permissions[m];
+        }
+    }
+    return r;
+}
+
+system_support_info_record sample_support_info()
+{
+    system_support_info_record r{};
+    r.lessAlarmAudio = 0;
+    r.alarmOutput = 1;
+    r.supportWhiteledAdjust = 1;
+    r.lprShowAlgoDebug = 0;
+    r.isTestVideo = 0;
+    r.httpPort = 80;
+    r.upnpEnable = 1;
+    r.upnpHttpPort = 8080;
+    r.upnpHttpsPort = 8443;
+    r.upnpRtspPort = 8554;
+    r.ddns.enable = 1;
+    put(r.ddns.userName, "northfield-carpark");
+    put(r.ddns.provider, "gate-north.example-ddns.net");
+    put(r.ddns.hostName, "gate-north");
+    r.ddns.httpPort = 18080;
+    r.ddns.rtspPort = 18554;
+    r.ddns.playbackPort = 18555;
+    r.ddns.status = 1;
+    r.outputNum = 2;
+    r.curmaxconn = 10;
+    r.lprRedLightSupport = 1;
+    r.mainRtspPort = 554;
+    r.isSupportCellular = 0;
+    r.isSupportIndependentGps = 0;
+    r.isCompositeEnable = 0;
+    r.updateState = 1;
+    put(r.url, "https://updates.example.net/ipc/b4240/V5.2.16.bin");
+    put(r.version, "V5.2.16 build 241002");
+    put(r.versionInfo, "Improves night-time plate reading under infrared light.\n"
+                       "Fixes RTSP reconnection after a network loss.\n"
+                       "Adds the weekly reboot schedule to the maintenance page.");
+    put(r.versionTime, "2026-10-02");
+    put(r.deviceClass, "IPC");
+    r.radarSupport = 0;
+    return r;
+}
+
 const CatalogEntry entries[] = {
     {"get_system_information_json", "device identity, network state and supported features",
      [](char *dst, int32_t n) {
@@ -140,6 +213,154 @@ const CatalogEntry entries[] = {
              return h;
          }();
          return get_system_online_heart_json(&r, dst, n);
+     }},
+    {"get_system_date_time_json", "date, time zone and NTP",
+     [](char *dst, int32_t n) {
+         static const system_date_time_record r = [] {
+             system_date_time_record t{};
+             t.year = 2026;
+             t.month = 11;
+             t.day = 22;
+             t.hour = 9;
+             t.minute = 41;
+             t.second = 7;
+             put(t.timeZoneTz, "CET-1CEST,M3.5.0,M10.5.0/3");
+             put(t.zoneNameTz, "Europe/Berlin");
+             t.dayLight = 1;
+             t.timeType = 1;
+             put(t.ntpServer, "pool.ntp.org");
+             t.ntpSyncEnable = 1;
+             t.ntpInterval = 60;
+             return t;
+         }();
+         return get_system_date_time_json(&r, dst, n);
+     }},
+    {"get_system_user_anonymous_json", "whether visitors may watch without an account",
+     [](char *dst, int32_t n) {
+         static const system_user_anonymous_record r{0};
+         return get_system_user_anonymous_json(&r, dst, n);
+     }},
+    {"get_system_user_json", "the accounts with their levels and module permissions",
+     [](char *dst, int32_t n) {
+         static const system_user_record r = sample_users();
+         return get_system_user_json(&r, dst, n);
+     }},
+    {"get_system_auto_reboot_json", "the weekly automatic reboot",
+     [](char *dst, int32_t n) {
+         static const system_auto_reboot_record r{1, 2, 3, 30, 0};
+         return get_system_auto_reboot_json(&r, dst, n);
+     }},
+    {"get_system_aes_key_json", "the stream-encryption key",
+     [](char *dst, int32_t n) {
+         static const system_aes_key_record r = [] {
+             system_aes_key_record k{};
+             put(k.key, "9f86d081884c7d659a2feaa0c55ad015a3bf4f1b2b0b822cd15d6c15b0f00a08");
+             put(k.keyId, "carpark-2026-11");
+             return k;
+         }();
+         return get_system_aes_key_json(&r, dst, n);
+     }},
+    {"get_system_sqa_info_json", "the administrator's security questions",
+     [](char *dst, int32_t n) {
+         static const system_sqa_info_record r = [] {
+             system_sqa_info_record q{};
+             q.sqaEnable = 1;
+             const char *questions[3] = {"Name of your first school?", "City where you were born?",
+                                         "Model of your first car?"};
+             for (int i = 0; i < 3; ++i) {
+                 q.questions[i].sqaType = static_cast<uint8_t>(i + 1);
+                 put(q.questions[i].sqaQuestion, questions[i]);
+                 put(q.questions[i].sqaAnswer, "(stored answer)");
+             }
+             return q;
+         }();
+         return get_system_sqa_info_json(&r, dst, n);
+     }},
+    {"get_system_water_mark_json", "the video watermark",
+     [](char *dst, int32_t n) {
+         static const system_water_mark_record r = [] {
+             system_water_mark_record w{};
+             w.waterMarkEnable = 1;
+             put(w.waterMarkString, "Northfield car park - gate north");
+             return w;
+         }();
+         return get_system_water_mark_json(&r, dst, n);
+     }},
+    {"get_system_access_list_json", "the IP access list",
+     [](char *dst, int32_t n) {
+         static const system_access_list_record r = [] {
+             system_access_list_record a{};
+             a.maxConcurrent = 10;
+             a.filterEnable = 1;
+             a.filterType = 0;
+             const char *addresses[3] = {"192.168.1.10", "192.168.1.0/24", "10.20.0.5"};
+             const int slots[3] = {0, 1, 4};
+             for (int i = 0; i < 3; ++i) {
+                 a.slotNumbers[slots[i]] = slots[i];
+                 a.accessType[slots[i]] = i == 1 ? 1 : 0;
+                 put(a.accessAddress[slots[i]], addresses[i]);
+             }
+             return a;
+         }();
+         return get_system_access_list_json(&r, dst, n);
+     }},
+    {"get_system_ssh_json", "SSH service",
+     [](char *dst, int32_t n) {
+         static const system_ssh_record r{0, 22};
+         return get_system_ssh_json(&r, dst, n);
+     }},
+    {"get_system_notify_json", "the notification texts",
+     [](char *dst, int32_t n) {
+         static const system_notify_record r = [] {
+             system_notify_record t{};
+             put(t.keep, "Keep alive");
+             put(t.md, "Motion detected");
+             put(t.recording, "Recording started");
+             put(t.input, "Alarm input 1 triggered");
+             put(t.output, "Barrier relay closed");
+             return t;
+         }();
+         return get_system_notify_json(&r, dst, n);
+     }},
+    {"get_system_auto_export_json", "automatic export of recordings",
+     [](char *dst, int32_t n) {
+         static const system_auto_export_record r = [] {
+             system_auto_export_record e{};
+             e.autoExportEnable = 1;
+             e.autoExportMethod = 1;
+             e.autoExportWeekday = 1;
+             put(e.autoExportTime, "02:00:00");
+             e.autoExportRange = 7;
+             return e;
+         }();
+         return get_system_auto_export_json(&r, dst, n);
+     }},
+    {"get_system_authority_json", "the logged-in user's authority",
+     [](char *dst, int32_t n) {
+         static const system_authority_record r = [] {
+             system_authority_record a{};
+             a.userLevel = 1;
+             a.privilege = 63;
+             put(a.userId, "operator");
+             return a;
+         }();
+         return get_system_authority_json(&r, dst, n);
+     }},
+    {"get_system_remote_logs_json", "sending the log to a remote server",
+     [](char *dst, int32_t n) {
+         static const system_remote_logs_record r = [] {
+             system_remote_logs_record l{};
+             l.remoteLogsEnable = 1;
+             l.remoteLogsPort = 514;
+             put(l.remoteLogsIpAddress, "192.168.1.20");
+             return l;
+         }();
+         return get_system_remote_logs_json(&r, dst, n);
+     }},
+    {"get_system_support_info_json", "optional pages, ports and the firmware upgrade notice",
+     [](char *dst, int32_t n) {
+         static const system_support_info_record r = sample_support_info();
+         return get_system_support_info_json(&r, dst, n);
      }},
 };
 

@@ -110,6 +110,91 @@ lpr_list_settings_record sample_list(int32_t enable, const char *weekday)
     return r;
 }
 
+// The last three reads at the north gate, the newest first.
+const lpr_last_data_entry kLastReads[3] = {
+    {"2026-11-21 18:42:07", "KX71 ZRD", "/mnt/sd/lpr/20261121/184207_1.jpg", "Entry lane", 1, 0, 812, 644, 1004, 692},
+    {"2026-11-21 18:39:55", "WP19 HNA", "/mnt/sd/lpr/20261121/183955_1.jpg", "Exit lane", 2, 1, 1288, 602, 1470, 648},
+    {"2026-11-21 18:31:12", "BD68 TUV", "/mnt/sd/lpr/20261121/183112_1.jpg", "Entry lane", 1, 0, 790, 660, 985, 707},
+};
+
+// A two-lane speed radar under the gantry, reporting in km/h, with speed
+// limits and a weekly count export.
+lpr_radar_config_record sample_radar()
+{
+    lpr_radar_config_record r{};
+    r.enable = 1;
+    put(r.height, "5.2");
+    put(r.angle, "18");
+    put(r.angleCom, "0.5");
+    r.lanesNum = 2;
+    put(r.laneWidth, "3.5");
+    put(r.installLocation, "Gantry, lane centre");
+    r.speedUnit = 0;
+    r.laneRegion[0] = 1;
+    r.laneRegion[1] = 2;
+    r.triggerLine = 540;
+    put(r.triggerDistance, "25");
+    r.showLicensePlateEnable = 1;
+    r.showDetectionRegionEnable = 0;
+    r.showSpeedEnable = 1;
+    r.showDirectionEnable = 1;
+    r.showDistanceEnable = 0;
+    r.showAzimuthEnable = 0;
+    r.showCountingEnable = 1;
+    r.fontSize = 24;
+    put(r.fontColor, "#FFFF00");
+    r.osdAutoReset = 1;
+    r.osdResetWeekday = 1;
+    r.osdResetHour = 0;
+    r.osdResetMin = 0;
+    r.osdResetSec = 0;
+    r.maxSpeedAlarmEnable = 1;
+    r.minSpeedAlarmEnable = 0;
+    r.maxSpeedThreshold = 30;
+    r.minSpeedThreshold = 5;
+    r.drivingDirAlarmEnable = 1;
+    r.drivingDir = 1;
+    r.radarLevel = 3;
+    r.countAlarm = 0;
+    r.countThreshold = 500;
+    r.debug = 0;
+    r.upgrade = 0;
+    put_week(r.schedule, "0600-2200", "0000-2400");
+    r.exportEnable = 1;
+    r.exportMethod = 1;
+    r.exportWeekday = 1;
+    r.exportResetHour = 2;
+    r.exportResetMin = 30;
+    r.exportResetSec = 0;
+    r.exportTimeRange = 7;
+    r.laneDirection[0] = 1;
+    r.laneDirection[1] = 2;
+    return r;
+}
+
+const lpr_radar_detect_entry kRadarTargets[2] = {
+    {17, "28.4", "-1.6", "31.2", "approaching"},
+    {18, "22.9", "1.9", "46.7", "leaving"},
+};
+
+// Rule 0 raises an alarm for vehicles without a plate entering through
+// region 1; rule 1 for one plate colour, vehicle type and colour; rules 2
+// and 3 are unused.
+const lpr_attr_event_entry kAttrRules[4] = {
+    {1, 1, 1, 1, 0, 0, 0},
+    {1, 0, 0, 0, 2, 3, 1},
+    {0, 0, 0, 0, 0, 0, 0},
+    {0, 0, 0, 0, 0, 0, 0},
+};
+
+lpr_attr_schedule sample_attr_schedule()
+{
+    lpr_attr_schedule s{};
+    put_week(s.schedule[0], "0000-2400", "0000-2400");
+    put_week(s.schedule[1], "0700-1900", "");
+    return s;
+}
+
 const CatalogEntry entries[] = {
     {"get_lpr_settings_json", "plate recognition settings with the detection polygons and schedule",
      [](char *dst, int32_t n) {
@@ -172,6 +257,23 @@ const CatalogEntry entries[] = {
          }();
          return get_lpr_wildcards_json(&r, dst, n);
      }},
+    {"get_lpr_last_data_json", "the most recent plate reads as numbered keys",
+     [](char *dst, int32_t n) { return get_lpr_last_data_json(3, kLastReads, dst, n); }},
+    {"get_lpr_radar_config_json", "speed radar installation, overlay, alarms and export",
+     [](char *dst, int32_t n) {
+         static const lpr_radar_config_record r = sample_radar();
+         return get_lpr_radar_config_json(&r, dst, n);
+     }},
+    {"get_lpr_radar_test_json", "state of the radar self-test",
+     [](char *dst, int32_t n) { return get_lpr_radar_test_json(1, dst, n); }},
+    {"get_lpr_radar_detect_data_json", "targets the speed radar currently tracks",
+     [](char *dst, int32_t n) { return get_lpr_radar_detect_data_json(2, kRadarTargets, dst, n); }},
+    {"get_lpr_attr_event_json", "plate-attribute alarm rules with their switches and schedules",
+     [](char *dst, int32_t n) {
+         static const lpr_attr_schedule s = sample_attr_schedule();
+         return get_lpr_attr_event_json(kAttrRules, &s, dst, n);
+     },
+     .testsBuffer = false},
 };
 
 } // namespace

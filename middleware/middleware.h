@@ -538,6 +538,134 @@ MW_API int32_t get_lpr_upload_status_json(const lpr_upload_status_record *in, ch
 /* "filter" and all thirty wildcard slots, enabled or not, index from 0. */
 MW_API int32_t get_lpr_wildcards_json(const lpr_wildcards_record *in, char *dst, int32_t dstSize);
 
+/* ---- recent plates, speed radar and plate-attribute rules ---- */
+
+/* One recent plate read: when, what, where its snapshot is stored, the
+   region it was read in, the direction of travel, the region-of-interest id
+   and the plate's box in the image (pixels). */
+typedef struct lpr_last_data_entry {
+    char time[32];
+    char plate[64];
+    char path[48];
+    char region[32];
+    int32_t direction;
+    int32_t roiId;
+    int32_t plateLeft;
+    int32_t plateTop;
+    int32_t plateRight;
+    int32_t plateBottom;
+} lpr_last_data_entry;
+
+/* The speed radar beside the plate camera. Distances, angles and widths are
+   texts as the installer typed them; the codes (speedUnit, drivingDir,
+   radarLevel, exportMethod, exportTimeRange) are passed through. laneRegion[l]
+   is the detection region matched to lane l, laneDirection[l] its direction
+   of travel; lanes count from 0. The document lists lanesNum lane regions
+   reading on past laneRegion into triggerLine, triggerDistance and the
+   members after them, so the order of this record is part of the document
+   and must not change. `reserved0` (eight words) and `reserved1` are not in
+   the document. */
+typedef struct lpr_radar_config_record {
+    int32_t enable;
+    char height[32];
+    char angle[32];
+    char angleCom[32];
+    int32_t lanesNum;
+    char laneWidth[32];
+    char installLocation[32];
+    int32_t speedUnit;
+    int32_t laneRegion[4];
+    int32_t triggerLine;
+    char triggerDistance[32];
+    int32_t showLicensePlateEnable;
+    int32_t showDetectionRegionEnable;
+    int32_t showSpeedEnable;
+    int32_t showDirectionEnable;
+    int32_t showDistanceEnable;
+    int32_t showAzimuthEnable;
+    int32_t showCountingEnable;
+    int32_t fontSize;
+    char fontColor[32];
+    int32_t osdAutoReset;
+    int32_t osdResetWeekday;
+    int32_t osdResetHour;
+    int32_t osdResetMin;
+    int32_t osdResetSec;
+    int32_t reserved0[8];               /* not in the document */
+    int32_t maxSpeedAlarmEnable;
+    int32_t minSpeedAlarmEnable;
+    int32_t maxSpeedThreshold;
+    int32_t minSpeedThreshold;
+    int32_t drivingDirAlarmEnable;
+    int32_t drivingDir;
+    int32_t radarLevel;
+    int32_t countAlarm;
+    int32_t countThreshold;
+    int32_t debug;
+    int32_t reserved1;                  /* not in the document */
+    int32_t upgrade;
+    char schedule[7][256];
+    int32_t exportEnable;
+    int32_t exportMethod;
+    int32_t exportWeekday;
+    int32_t exportResetHour;
+    int32_t exportResetMin;
+    int32_t exportResetSec;
+    int32_t exportTimeRange;
+    int32_t laneDirection[4];
+} lpr_radar_config_record;
+
+/* One target the radar currently tracks; its measures are texts. */
+typedef struct lpr_radar_detect_entry {
+    int32_t id;
+    char speed[32];
+    char xpos[32];
+    char distance[32];
+    char direction[32];
+} lpr_radar_detect_entry;
+
+/* One plate-attribute alarm rule (there are four): it fires for a read
+   without a plate (noPlate) or one matching the colour, type and region
+   codes, travelling in `direction`. */
+typedef struct lpr_attr_event_entry {
+    uint8_t enable;
+    uint8_t noPlate;
+    uint8_t direction;
+    int32_t detectRegion;
+    int32_t plateColor;
+    int32_t vehicleType;
+    int32_t vehicleColor;
+} lpr_attr_event_entry;
+
+/* The day texts of the four attribute rules: schedule[rule][day], both from 0.
+   The block is the bare char[4][7][256]; the struct only names it. */
+typedef struct lpr_attr_schedule {
+    char schedule[4][7][256];
+} lpr_attr_schedule;
+
+/* The last `count` plate reads as flat keys "time_<i>" ... "plateBottom_<i>",
+   i from 0, all ten keys of a read before the next. A count of 0 or below
+   gives an empty object; `entries` must hold `count` reads. */
+MW_API int32_t get_lpr_last_data_json(int32_t count, const lpr_last_data_entry *entries, char *dst,
+                                      int32_t dstSize);
+/* The radar configuration. "laneMatchRoiList" holds lanesNum lanes, not
+   capped at four: lanes 4 and up read the words that follow laneRegion in the
+   record. Our choice: the list stops at the record's last whole word, so a
+   lanesNum beyond the record never reads past it. "laneDirection" holds at
+   most four lanes. */
+MW_API int32_t get_lpr_radar_config_json(const lpr_radar_config_record *in, char *dst, int32_t dstSize);
+/* {"radarTest": radarTest} - the radar self-test state. */
+MW_API int32_t get_lpr_radar_test_json(int32_t radarTest, char *dst, int32_t dstSize);
+/* "radarDetectData": the first `count` targets (none for a count of 0 or
+   below); `entries` must hold `count` targets. */
+MW_API int32_t get_lpr_radar_detect_data_json(int32_t count, const lpr_radar_detect_entry *entries, char *dst,
+                                              int32_t dstSize);
+/* The four attribute rules (`rules` holds four) with their switches, triggers
+   and day texts. This one does not test its buffer: a NULL buffer or a size
+   below 1 copies nothing and still returns 0; only a failed print gives -1. */
+MW_API int32_t get_lpr_attr_event_json(const lpr_attr_event_entry *rules, const lpr_attr_schedule *schedule,
+                                       char *dst, int32_t dstSize);
+
 /* ===== end lpr ===== */
 
 #ifdef __cplusplus

@@ -1,5 +1,6 @@
 // Recent plate reads, the speed radar (configuration, self-test, targets) and
 // the plate-attribute alarm rules.
+#include "catalog.h"
 #include "support.h"
 
 #include <climits>
@@ -12,12 +13,6 @@ namespace {
 using test::A;
 using test::N;
 using test::S;
-
-template <size_t M>
-void put(char (&field)[M], const char *text)
-{
-    snprintf(field, M, "%s", text);
-}
 
 std::string str(int i) { return std::to_string(i); }
 
@@ -73,75 +68,32 @@ TEST(LprLastData, CountDecidesHowManyReads)
     }
 }
 
-TEST(LprLastData, TwoReadsGiveTwentyKeysEntryByEntry)
-{
-    const lpr_last_data_entry reads[2] = {read_entry(0), read_entry(1)};
-    test::Json doc(test::rendered([&](char *dst, int32_t n) { return get_lpr_last_data_json(2, reads, dst, n); }));
-    const std::vector<std::string> keys = test::keys(doc.root());
-    ASSERT_EQ(keys.size(), 20u);
-    EXPECT_EQ(keys.front(), "time_0");
-    EXPECT_EQ(keys[9], "plateBottom_0");
-    EXPECT_EQ(keys[10], "time_1");
-    EXPECT_EQ(keys.back(), "plateBottom_1");
-}
-
 /* ---- radar configuration ---- */
 
 // Every read field distinct; the unread words hold values that must not show.
 lpr_radar_config_record distinct_radar(int32_t lanes)
 {
     lpr_radar_config_record r{};
-    r.enable = 1;
-    put(r.height, "5.2");
-    put(r.angle, "18");
-    put(r.angleCom, "0.5");
-    r.lanesNum = lanes;
-    put(r.laneWidth, "3.5");
-    put(r.installLocation, "gantry");
-    r.speedUnit = 2;
-    for (int l = 0; l < 4; ++l)
+    r.enable = 1; put(r.height, "5.2"); put(r.angle, "18"); put(r.angleCom, "0.5"); r.lanesNum = lanes;
+    put(r.laneWidth, "3.5"); put(r.installLocation, "gantry"); r.speedUnit = 2;
+    for (int l = 0; l < 4; ++l) {
         r.laneRegion[l] = 100 + l;
-    r.triggerLine = 540;
-    put(r.triggerDistance, "25.5");
-    r.showLicensePlateEnable = 11;
-    r.showDetectionRegionEnable = 12;
-    r.showSpeedEnable = 13;
-    r.showDirectionEnable = 14;
-    r.showDistanceEnable = 15;
-    r.showAzimuthEnable = 16;
-    r.showCountingEnable = 17;
-    r.fontSize = 24;
-    put(r.fontColor, "#FFFF00");
-    r.osdAutoReset = 21;
-    r.osdResetWeekday = 22;
-    r.osdResetHour = 23;
-    r.osdResetMin = 24;
-    r.osdResetSec = 25;
+        r.laneDirection[l] = 200 + l;
+    }
+    r.triggerLine = 540; put(r.triggerDistance, "25.5");
+    r.showLicensePlateEnable = 11; r.showDetectionRegionEnable = 12; r.showSpeedEnable = 13;
+    r.showDirectionEnable = 14; r.showDistanceEnable = 15; r.showAzimuthEnable = 16; r.showCountingEnable = 17;
+    r.fontSize = 24; put(r.fontColor, "#FFFF00");
+    r.osdAutoReset = 21; r.osdResetWeekday = 22; r.osdResetHour = 23; r.osdResetMin = 24; r.osdResetSec = 25;
     for (int k = 0; k < 8; ++k)
         r.reserved0[k] = 9000 + k;
-    r.maxSpeedAlarmEnable = 31;
-    r.minSpeedAlarmEnable = 32;
-    r.maxSpeedThreshold = 33;
-    r.minSpeedThreshold = -34;
-    r.drivingDirAlarmEnable = 35;
-    r.drivingDir = 36;
-    r.radarLevel = 37;
-    r.countAlarm = 38;
-    r.countThreshold = 39;
-    r.debug = 40;
-    r.reserved1 = 9100;
-    r.upgrade = 41;
+    r.maxSpeedAlarmEnable = 31; r.minSpeedAlarmEnable = 32; r.maxSpeedThreshold = 33; r.minSpeedThreshold = -34;
+    r.drivingDirAlarmEnable = 35; r.drivingDir = 36; r.radarLevel = 37; r.countAlarm = 38; r.countThreshold = 39;
+    r.debug = 40; r.reserved1 = 9100; r.upgrade = 41;
     for (int d = 0; d < 7; ++d)
-        snprintf(r.schedule[d], sizeof r.schedule[d], "radar-%d", d);
-    r.exportEnable = 51;
-    r.exportMethod = 52;
-    r.exportWeekday = 53;
-    r.exportResetHour = 54;
-    r.exportResetMin = 55;
-    r.exportResetSec = 56;
-    r.exportTimeRange = -57;
-    for (int l = 0; l < 4; ++l)
-        r.laneDirection[l] = 200 + l;
+        put(r.schedule[d], ("radar-" + str(d)).c_str());
+    r.exportEnable = 51; r.exportMethod = 52; r.exportWeekday = 53; r.exportResetHour = 54;
+    r.exportResetMin = 55; r.exportResetSec = 56; r.exportTimeRange = -57;
     return r;
 }
 
@@ -154,52 +106,19 @@ TEST(LprRadarConfig, EveryKeyInOrder)
 {
     test::Json doc(render_radar(distinct_radar(3)));
     test::expect_members(doc.root(), {
-                                         N("enable", 1),
-                                         S("height", "5.2"),
-                                         S("angle", "18"),
-                                         S("angleCom", "0.5"),
-                                         N("lanesNum", 3),
-                                         S("laneWidth", "3.5"),
-                                         S("installLocation", "gantry"),
-                                         N("speedUnit", 2),
-                                         A("laneMatchRoiList"),
-                                         A("laneDirection"),
-                                         N("triggerLine", 540),
-                                         S("triggerDistance", "25.5"),
-                                         N("showSpeedEnable", 13),
-                                         N("showDirectionEnable", 14),
-                                         N("showDistanceEnable", 15),
-                                         N("showAzimuthEnable", 16),
-                                         N("showCountingEnable", 17),
-                                         N("showLicensePlateEnable", 11),
-                                         N("showDetectionRegionEnable", 12),
-                                         N("fontSize", 24),
-                                         S("fontColor", "#FFFF00"),
-                                         N("osdAutoReset", 21),
-                                         N("osdResetWeekday", 22),
-                                         N("osdResetHour", 23),
-                                         N("osdResetMin", 24),
-                                         N("osdResetSec", 25),
-                                         N("maxSpeedAlarmEnable", 31),
-                                         N("minSpeedAlarmEnable", 32),
-                                         N("maxSpeedThreshold", 33),
-                                         N("minSpeedThreshold", -34),
-                                         N("drivingDirAlarmEnable", 35),
-                                         N("drivingDir", 36),
-                                         N("countAlarm", 38),
-                                         N("countThreshold", 39),
-                                         N("radarLevel", 37),
-                                         N("debug", 40),
-                                         N("upgrade", 41),
-                                         N("exportEnable", 51),
-                                         N("exportMethod", 52),
-                                         N("exportWeekday", 53),
-                                         N("exportResetHour", 54),
-                                         N("exportResetMin", 55),
-                                         N("exportResetSec", 56),
-                                         N("exportTimeRange", -57),
-                                         A("scheduleList"),
-                                     });
+        N("enable", 1), S("height", "5.2"), S("angle", "18"), S("angleCom", "0.5"), N("lanesNum", 3),
+        S("laneWidth", "3.5"), S("installLocation", "gantry"), N("speedUnit", 2), A("laneMatchRoiList"),
+        A("laneDirection"), N("triggerLine", 540), S("triggerDistance", "25.5"), N("showSpeedEnable", 13),
+        N("showDirectionEnable", 14), N("showDistanceEnable", 15), N("showAzimuthEnable", 16),
+        N("showCountingEnable", 17), N("showLicensePlateEnable", 11), N("showDetectionRegionEnable", 12),
+        N("fontSize", 24), S("fontColor", "#FFFF00"), N("osdAutoReset", 21), N("osdResetWeekday", 22),
+        N("osdResetHour", 23), N("osdResetMin", 24), N("osdResetSec", 25), N("maxSpeedAlarmEnable", 31),
+        N("minSpeedAlarmEnable", 32), N("maxSpeedThreshold", 33), N("minSpeedThreshold", -34),
+        N("drivingDirAlarmEnable", 35), N("drivingDir", 36), N("countAlarm", 38), N("countThreshold", 39),
+        N("radarLevel", 37), N("debug", 40), N("upgrade", 41), N("exportEnable", 51), N("exportMethod", 52),
+        N("exportWeekday", 53), N("exportResetHour", 54), N("exportResetMin", 55), N("exportResetSec", 56),
+        N("exportTimeRange", -57), A("scheduleList"),
+    });
     const cJSON *week = doc["scheduleList"];
     ASSERT_EQ(cJSON_GetArraySize(week), 7);
     for (int d = 0; d < 7; ++d)

@@ -1,4 +1,134 @@
 #include "catalog.h"
 
-// No serializer of this group has a sample yet.
-const CatalogGroup catalog_iot_actions{"iot_actions", nullptr, 0};
+namespace {
+
+// The action records are the alarm-action records of the event pages, with
+// the four IoT rules in elements 0..3. They are large (the audio one holds
+// 48 x 7 schedule texts): each sample is filled in place, once, in static
+// storage, and never copied. The event-type selector is left at "all"; these
+// documents do not read it.
+template <typename Record, void (*Fill)(Record &)>
+const Record &sample()
+{
+    static Record r{};
+    static const bool filled = (Fill(r), true);
+    (void)filled;
+    return r;
+}
+
+// Rule 0: server-room climate, rule 1: loading-bay door; rules 2 and 3 unused.
+bool rule_in_use(int32_t rule) { return rule < 2; }
+
+void fill_record(event_record_record &r)
+{
+    r.eventType = -1;
+    r.sdInsert[0] = 1;
+    r.nasMountStatus[0] = 1;
+    for (int32_t rule = 0; rule < 4; ++rule) {
+        r.duration[rule] = rule == 1 ? 60 : 30;
+        r.recordSettings[rule].recordEnable = rule_in_use(rule) ? 1 : 0;
+        r.recordSettings[rule].recordWay = 1;
+    }
+}
+
+void fill_snap(event_snop_record &r)
+{
+    r.eventType = -1;
+    r.snapSmtpEnable = 1;
+    for (int32_t rule = 0; rule < 4; ++rule) {
+        r.interval[rule] = 5;
+        r.unit[rule] = 0;
+        r.snapEnable[rule] = rule_in_use(rule) ? 1 : 0;
+        r.snapWay[rule] = 1;
+        r.imageNum[rule] = rule == 1 ? 4 : 2;
+        r.smtpInterval[rule] = 300;
+        r.snapType[rule] = 1;
+    }
+}
+
+void fill_output(event_extern_output_record &r)
+{
+    r.eventType = -1;
+    for (int32_t rule = 0; rule < 4; ++rule) {
+        r.externOutputEnable[rule] = rule == 1 ? 1 : 0;
+        r.externDuration[rule] = 10;
+        r.externOutputExtEnable[rule] = 0;
+    }
+}
+
+void fill_play_audio(event_play_audio_record &r)
+{
+    r.eventType = -1;
+    for (int32_t rule = 0; rule < 4; ++rule) {
+        r.playAudioEnable[rule] = rule == 1 ? 1 : 0;
+        r.audioInterval[rule] = 30;
+        for (int32_t d = 0; d < 7; ++d)
+            put(r.schedule[rule][d], d == 0 || d == 6 ? "00:00-24:00" : "00:00-07:00;19:00-24:00");
+    }
+}
+
+void fill_sip_phone(event_alarm_sip_phone_record &r)
+{
+    r.eventType = -1;
+    r.alarmSipPhoneEnable[0] = 1;
+}
+
+void fill_notify(event_notify_record &r)
+{
+    r.eventType = -1;
+    for (int32_t rule = 0; rule < 4; ++rule) {
+        r.httpNotifyEnable[rule] = rule_in_use(rule) ? 1 : 0;
+        event_notify_entry &bms = r.notifyList[rule][0];
+        bms.enable = 1;
+        bms.method = 1;
+        bms.snapShot = 0;
+        snprintf(bms.url, sizeof bms.url, "http://192.168.1.25/bms/iot-alarm?rule=%d", static_cast<int>(rule));
+        put(bms.user, "bms");
+        put(bms.password, "Bms-2026");
+        bms.interval = 60;
+    }
+}
+
+void fill_osd_blink(event_osd_blink_record &r)
+{
+    r.eventType = -1;
+    for (int32_t rule = 0; rule < 4; ++rule) {
+        r.osdBlinkEnable[rule] = rule_in_use(rule) ? 1 : 0;
+        r.osdBlinkTime[rule] = 15;
+    }
+}
+
+const CatalogEntry entries[] = {
+    {"get_event_iot_record_json", "recording on each IoT alarm rule",
+     [](char *dst, int32_t n) { return get_event_iot_record_json(&sample<event_record_record, fill_record>(), dst, n); }},
+    {"get_event_iot_snap_json", "snapshots on each IoT alarm rule",
+     [](char *dst, int32_t n) { return get_event_iot_snap_json(&sample<event_snop_record, fill_snap>(), dst, n); }},
+    {"get_event_extern_iot_output_json", "alarm output switched on each IoT alarm rule",
+     [](char *dst, int32_t n) {
+         return get_event_extern_iot_output_json(&sample<event_extern_output_record, fill_output>(), dst, n);
+     }},
+    {"get_event_iot_play_audio_json", "audio file played on each IoT alarm rule, with its week",
+     [](char *dst, int32_t n) {
+         return get_event_iot_play_audio_json(&sample<event_play_audio_record, fill_play_audio>(), dst, n);
+     }},
+    {"get_event_iot_alarm_sip_phone_json", "SIP phone rung on each IoT alarm rule",
+     [](char *dst, int32_t n) {
+         return get_event_iot_alarm_sip_phone_json(&sample<event_alarm_sip_phone_record, fill_sip_phone>(), dst,
+                                                   n);
+     }},
+    {"get_event_iot_notify_json", "HTTP notification targets of each IoT alarm rule",
+     [](char *dst, int32_t n) { return get_event_iot_notify_json(&sample<event_notify_record, fill_notify>(), dst, n); }},
+    {"get_event_iot_osd_blink_json", "on-screen display blinking on each IoT alarm rule",
+     [](char *dst, int32_t n) {
+         return get_event_iot_osd_blink_json(&sample<event_osd_blink_record, fill_osd_blink>(), dst, n);
+     }},
+    {"get_event_iot_alarm_status_json", "current IoT alarm state",
+     [](char *dst, int32_t n) {
+         static const event_iot_alarm_status_record r{1};
+         return get_event_iot_alarm_status_json(&r, dst, n);
+     }},
+};
+
+} // namespace
+
+const CatalogGroup catalog_iot_actions = catalog_group("iot_actions", entries);

@@ -1,4 +1,183 @@
 #include "catalog.h"
 
-// No serializer of this group has a sample yet.
-const CatalogGroup catalog_camera{"camera", nullptr, 0};
+namespace {
+
+// A four-megapixel varifocal bullet on a car-park entrance: 50 Hz mains,
+// automatic exposure, smart IR, WDR by schedule, and plate reading at night.
+camera_setting_record sample_setting()
+{
+    camera_setting_record r{};
+    r.blcRegion = 2;
+    r.blcExclusive = 0;
+    r.doorMode = 0;
+    r.powerlineFreq = 50;
+    r.dayToNight = 18;
+    r.nightToDay = 42;
+    r.d2nSensitivity = 5;
+    r.n2dSensitivity = 6;
+    r.mirrorCorridor = 0;
+    r.imageRotation = 0;
+    r.brightness = 52;
+    r.contrast = 48;
+    r.colorSaturation = 55;
+    r.sharpness = 60;
+    r.nfLevel = 3;
+    r.dnr2Level = 4;
+    r.smartIrMode = 1;
+    r.irBlanceMode = 2;
+    r.nearViewIrLevel = 35;
+    r.farViewIrLevel = 80;
+    r.middleViewIrLevel = 60;
+    r.whiteLedLevel = 70;
+    r.exposureMode = 0;
+    r.exposureTime = 7;
+    r.exposureGain = 30;
+    r.whiteBalanceMode = 1;
+    r.whiteBalanceRedGain = 128;
+    r.whiteBalanceBlueGain = 121;
+    r.defogMode = 1;
+    r.antiFogIntensity = 40;
+    r.digitalImageStabilisation = 0;
+    r.dnSwitchRefocus = 1;
+    r.hlcMode = 1;
+    r.hlcLevel = 65;
+    r.dayEnhancementMode = 2;
+    r.nightEnhancementMode = 3;
+    r.scheduleMode = 1;
+    r.wdrLevel = 5;
+    r.wdrAflevel = 3;
+    r.sensorMode = 2;
+    r.distortCorrect = 1;
+    r.fovAdjust = 90;
+    r.enblur = 1;
+    r.deblur = 2;
+    r.aspectRatio = 1;
+    r.zoomLimit = 16;
+    r.dayNightSensitivity = 4;
+    r.ledMode = 2;
+    r.focusMode = 1;
+    r.smokedDomeCover = 0;
+    r.iricrDayHour = 6;
+    r.iricrDayMinute = 30;
+    r.iricrNightHour = 19;
+    r.iricrNightMinute = 45;
+    r.irCutFilter = 1;
+    r.iricrGpinStatus = 0;
+    r.iricrGpinNumber = 1;
+    r.pirDuration = 15;
+    r.wdrMode = 2;
+    r.wdrStartHour = 7;
+    r.wdrStartMinute = 0;
+    r.wdrStopHour = 18;
+    r.wdrStopMinute = 30;
+    r.pirSensitivity = 3;
+    r.hasLprNightModeInEffect = 1;
+    r.lprNightModeInEffect = 1;
+    put(r.mediaUrl, "/live/main");
+    r.mediaWidth = 2560;
+    r.mediaHeight = 1440;
+    r.lprNight = 1;
+    r.inlprNight = 0;
+    r.fishDisplayMode = 0;
+    r.fishCorrectMode = 0;
+    r.dayNightMode = 2;
+    put(r.blcRegionArea, "480:270:1600:900");
+    r.irSupplemen = 1;
+    r.irisType = 1;
+    r.irisMode = 0;
+    for (int d = 1; d <= 5; ++d) { // working days
+        put(r.whiteBalanceTaskday[d][0], "07:00-18:00,1");
+        put(r.whiteBalanceTaskday[d][1], "18:00-23:59,3");
+        put(r.exposureTaskday[d][0], "06:30-19:45,0");
+        put(r.blcWdrHlcTaskday[d][0], "07:00-09:30,2");
+        put(r.blcWdrHlcTaskday[d][1], "16:30-19:00,2");
+    }
+    put(r.whiteBalanceTaskday[0][0], "00:00-23:59,1");
+    put(r.whiteBalanceTaskday[6][0], "00:00-23:59,1");
+    put(r.dnScheduleTaskday[0], "06:30-19:45,day");
+    put(r.dnScheduleTaskday[1], "19:45-23:59,night");
+    put(r.dnScheduleTaskday[2], "00:00-06:30,night");
+    return r;
+}
+
+// A dual-sensor traffic camera: flash synchronised on odd and even frames,
+// shorter shutters by night for moving plates.
+camera_sensor_image_record sample_sensor_image()
+{
+    camera_sensor_image_record r{};
+    r.powerlineFreq = 50;
+    r.digitalStabilisation = 0;
+    r.trafficScene = 1;
+    r.flashIntensity = 80;
+    r.parityFlashing = 1;
+    r.flashOffsetFirst = -120;
+    r.flashOffsetSecond = 240;
+    r.flashAeExpTimeFirst = 2000;
+    r.flashAeExpTimeSecond = 1000;
+    r.imageMode = 1;
+    r.irisMode[0] = 1;
+    r.irisMode[1] = 0;
+    for (int i = 0; i < 2; ++i) {
+        camera_sensor_image_entry &s = r.sensors[i];
+        s.daynight = static_cast<uint8_t>(i == 0 ? 0 : 2);
+        for (int m = 0; m < 3; ++m) {
+            s.maxshutterDay[m] = 33.333;
+            s.maxshutterNight[m] = 8.0 + m;
+            s.limitGainlevelDay[m] = static_cast<uint8_t>(40 + m);
+            s.limitGainlevelNight[m] = static_cast<uint8_t>(70 + m);
+            s.strobelightDay[m] = 0;
+            s.strobelightNight[m] = 1;
+            s.targetBrightnessDay[m] = 50;
+            s.targetBrightnessNight[m] = 45 - i;
+            s.manualExposetimeDay[m] = 4.0;
+            s.manualExposetimeNight[m] = 2.5;
+            s.manualGainlevelDay[m] = 20;
+            s.manualGainlevelNight[m] = 55;
+            s.brightness[m] = 128;
+            s.contrast[m] = static_cast<uint8_t>(120 + 10 * m);
+            s.saturation[m] = 140;
+        }
+    }
+    return r;
+}
+
+const CatalogEntry entries[] = {
+    {"get_camera_setting_json", "image settings, weekly image-mode task lists and day/night schedule",
+     [](char *dst, int32_t n) {
+         static const camera_setting_record r = sample_setting();
+         return get_camera_setting_json(&r, dst, n);
+     }},
+    {"get_camera_setting_day_night_json", "day and night exposure profiles",
+     [](char *dst, int32_t n) {
+         static const camera_setting_day_night_record r = [] {
+             camera_setting_day_night_record p{};
+             p.day = camera_day_night_profile{{0, 0}, 50, 1, 30, 40, 2, 0, 0, 1, 0, 0};
+             p.night = camera_day_night_profile{{0, 0}, 60, 1, 8, 80, 4, 1, 1, 0, 1, 0};
+             p.isSupportWhiteledGroup = 1;
+             p.dayWhiteledGroup = 0;
+             p.nightWhiteledGroup = 2;
+             return p;
+         }();
+         return get_camera_setting_day_night_json(&r, dst, n);
+     }},
+    {"get_camera_day_night_schedule_json", "the five day/night schedule texts",
+     [](char *dst, int32_t n) {
+         static const camera_day_night_schedule_record r = [] {
+             camera_day_night_schedule_record s{};
+             put(s.schedule[0], "06:30-19:45");
+             put(s.schedule[1], "19:45-23:59");
+             put(s.schedule[2], "00:00-06:30");
+             return s;
+         }();
+         return get_camera_day_night_schedule_json(&r, dst, n);
+     }},
+    {"get_camera_sensor_image_json", "traffic flash settings and per-sensor exposure by image mode",
+     [](char *dst, int32_t n) {
+         static const camera_sensor_image_record r = sample_sensor_image();
+         return get_camera_sensor_image_json(&r, dst, n);
+     }},
+};
+
+} // namespace
+
+const CatalogGroup catalog_camera = catalog_group("camera", entries);

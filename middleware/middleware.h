@@ -333,6 +333,198 @@ MW_API int32_t get_system_online_heart_json(const system_online_heart_record *in
 
 /* ===== camera image ===== */
 
+/* ---- image settings, day/night, sensors ---- */
+
+/* The image-settings page: exposure, white balance, IR, wide dynamic range,
+   back-light compensation and the weekly task schedules of the image modes.
+   The unread bytes keep the places of settings this page does not show. */
+typedef struct camera_setting_record {
+    uint8_t blcRegion;                 /* back-light compensation region */
+    uint8_t blcExclusive;
+    uint8_t doorMode;
+    uint8_t powerlineFreq;
+    uint32_t dayToNight;               /* day/night switching thresholds */
+    uint32_t nightToDay;
+    uint32_t d2nSensitivity;
+    uint32_t n2dSensitivity;
+    uint8_t mirrorCorridor;
+    uint8_t imageRotation;
+    uint8_t brightness;
+    uint8_t contrast;
+    uint8_t colorSaturation;
+    uint8_t sharpness;
+    uint8_t nfLevel;
+    uint8_t dnr2Level;
+    uint8_t smartIrMode;
+    uint8_t irBlanceMode;              /* IR balance; the key keeps this spelling */
+    uint8_t nearViewIrLevel;
+    uint8_t farViewIrLevel;
+    uint8_t middleViewIrLevel;
+    uint8_t whiteLedLevel;
+    uint8_t exposureMode;
+    uint8_t exposureTime;
+    uint8_t reserved0;                 /* not in the document */
+    uint8_t exposureGain;
+    uint8_t whiteBalanceMode;
+    uint8_t whiteBalanceRedGain;
+    uint8_t whiteBalanceBlueGain;
+    uint8_t reserved1;                 /* not in the document */
+    uint8_t defogMode;
+    uint8_t antiFogIntensity;
+    uint8_t digitalImageStabilisation;
+    uint8_t dnSwitchRefocus;
+    uint8_t hlcMode;
+    uint8_t hlcLevel;
+    uint8_t dayEnhancementMode;
+    uint8_t nightEnhancementMode;
+    uint8_t scheduleMode;
+    uint8_t wdrLevel;
+    uint8_t wdrAflevel;
+    uint32_t sensorMode;
+    uint8_t distortCorrect;
+    uint32_t fovAdjust;
+    uint8_t enblur;
+    uint8_t deblur;
+    uint8_t aspectRatio;
+    uint8_t zoomLimit;
+    int32_t dayNightSensitivity;
+    int32_t ledMode;
+    int32_t focusMode;
+    int32_t smokedDomeCover;
+    int32_t iricrDayHour;              /* the IR-cut filter's timed switch points */
+    int32_t iricrDayMinute;
+    int32_t iricrNightHour;
+    int32_t iricrNightMinute;
+    int32_t irCutFilter;
+    int32_t iricrGpinStatus;
+    int32_t iricrGpinNumber;
+    int32_t pirDuration;
+    int32_t wdrMode;
+    int32_t wdrStartHour;
+    int32_t wdrStartMinute;
+    int32_t wdrStopHour;
+    int32_t wdrStopMinute;
+    int32_t pirSensitivity;
+    int32_t hasLprNightModeInEffect;   /* non-zero: lprNightModeInEffect is reported */
+    int32_t lprNightModeInEffect;
+    char mediaUrl[32];
+    int32_t mediaWidth;
+    int32_t mediaHeight;
+    int32_t lprNight;
+    int32_t inlprNight;
+    int32_t fishDisplayMode;
+    int32_t fishCorrectMode;
+    int32_t dayNightMode;
+    char blcRegionArea[36];            /* the back-light region as text */
+    int32_t irSupplemen;
+    int32_t irisType;
+    int32_t irisMode;
+    /* Per day of the week (0..6), ten task slots; a slot whose first byte is
+       NUL is empty. */
+    char whiteBalanceTaskday[7][10][256];
+    char exposureTaskday[7][10][256];
+    char blcWdrHlcTaskday[7][10][256];
+    char dnScheduleTaskday[10][256];   /* the day/night schedule's ten slots */
+} camera_setting_record;
+
+/* One day/night profile: the sensor's behaviour by day or by night. The
+   profile's type and the members `day` and `night` that hold it are our
+   names; the two leading bytes and the last one are not in the document. */
+typedef struct camera_day_night_profile {
+    uint8_t reserved0[2];              /* not in the document */
+    uint8_t exposureLevel;
+    uint8_t minShutter;
+    uint8_t maxShutter;
+    uint8_t limitGain;
+    uint8_t irCutInterval;             /* zero-based; the document counts from 1 */
+    uint8_t irCutStatus;
+    uint8_t irLedStatus;
+    uint8_t colorMode;
+    uint8_t whiteLedStatus;
+    uint8_t reserved1;                 /* not in the document */
+} camera_day_night_profile;
+
+/* The day/night profile page: the day profile, the night profile, and the
+   white-light groups used by each. */
+typedef struct camera_setting_day_night_record {
+    camera_day_night_profile day;
+    camera_day_night_profile night;
+    int32_t isSupportWhiteledGroup;
+    int32_t dayWhiteledGroup;
+    int32_t nightWhiteledGroup;
+} camera_setting_day_night_record;
+
+/* The day/night schedule page: five schedule texts. */
+typedef struct camera_day_night_schedule_record {
+    char schedule[5][256];
+} camera_day_night_schedule_record;
+
+/* One sensor of a multi-sensor camera. Every per-mode array is indexed by the
+   image mode: 0 normal, 1 odd frames, 2 even frames. */
+typedef struct camera_sensor_image_entry {
+    int32_t reserved0;                 /* not in the document */
+    uint8_t daynight;
+    double maxshutterDay[3];           /* shutter limits, reported with two decimals */
+    double maxshutterNight[3];
+    uint8_t limitGainlevelDay[3];
+    uint8_t limitGainlevelNight[3];
+    uint8_t strobelightDay[3];         /* only element 0 is reported */
+    uint8_t strobelightNight[3];       /* only element 0 is reported */
+    int32_t targetBrightnessDay[3];
+    int32_t targetBrightnessNight[3];
+    double manualExposetimeDay[3];     /* reported with two decimals */
+    double manualExposetimeNight[3];
+    uint8_t manualGainlevelDay[3];
+    uint8_t manualGainlevelNight[3];
+    uint8_t brightness[3];             /* raw 0..255 levels, reported as 0..100 % */
+    uint8_t contrast[3];
+    uint8_t saturation[3];
+} camera_sensor_image_entry;
+
+/* The per-sensor image page: the traffic flash settings shared by the
+   sensors, then each sensor's day/night exposure per image mode. The unread
+   stretches (two bytes after powerlineFreq, two after digitalStabilisation,
+   widths of our choosing) are not in the document. */
+typedef struct camera_sensor_image_record {
+    uint8_t powerlineFreq;
+    uint8_t reserved0[2];              /* not in the document */
+    uint8_t digitalStabilisation;      /* the same setting as digitalImageStabilisation */
+    uint8_t reserved1[2];              /* not in the document */
+    uint8_t trafficScene;
+    uint8_t flashIntensity;
+    uint8_t parityFlashing;
+    int32_t flashOffsetFirst;
+    int32_t flashOffsetSecond;
+    int32_t flashAeExpTimeFirst;
+    int32_t flashAeExpTimeSecond;
+    uint8_t imageMode;
+    int32_t irisMode[2];               /* one per sensor */
+    camera_sensor_image_entry sensors[2];
+} camera_sensor_image_record;
+
+/* The image-settings page, its three weekly task lists (seven days each,
+   every day's non-empty slots joined as "slot;" with each slot cut at 31
+   characters, so a longer slot loses its ";") and the joined day/night
+   schedule slots as one text. "lprNightModeInEffect" is present only when
+   hasLprNightModeInEffect is non-zero. A slot is read no further than its
+   256 bytes, even when it lacks its NUL. */
+MW_API int32_t get_camera_setting_json(const camera_setting_record *in, char *dst, int32_t dstSize);
+/* The day and night profiles; the IR-cut intervals are reported one-based
+   (stored value + 1, so 255 reports 256). */
+MW_API int32_t get_camera_setting_day_night_json(const camera_setting_day_night_record *in, char *dst,
+                                                 int32_t dstSize);
+/* "dayNightSchedule": five {"index", "schedule"}, empty texts included. */
+MW_API int32_t get_camera_day_night_schedule_json(const camera_day_night_schedule_record *in, char *dst,
+                                                  int32_t dstSize);
+/* Flash settings and "sensorList": two sensors, each with the mode objects
+   "normal", "odd" and "even". Shutter and exposure times are texts with two
+   decimals; brightness, contrast and saturation are percentages rounded half
+   up. */
+MW_API int32_t get_camera_sensor_image_json(const camera_sensor_image_record *in, char *dst,
+                                            int32_t dstSize);
+
+/* ---- end image settings, day/night, sensors ---- */
+
 /* ===== end camera image ===== */
 
 /* ===== video ===== */

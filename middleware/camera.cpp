@@ -1,0 +1,248 @@
+/*
+ * camera.cpp - the camera image pages: image settings, day/night, sensors,
+ * masks, regions of interest, snapshots, lights, lens, model flags,
+ * capability groups and fisheye presets.
+ */
+#include "internal.h"
+
+#include <cstdio>
+#include <cstring>
+
+using mw::add;
+
+namespace {
+
+/* ---- shapes shared by the image documents ---- */
+
+/* Ten task slots joined into one text: each non-empty slot is printed as
+   "slot;" into a 32-byte scratch buffer, so a slot keeps at most 31
+   characters and one of 31 or more loses its ";". The cut is what the web
+   pages parse, so it stays. A slot is read no further than its 256 bytes. */
+struct TaskText {
+    char text[1024];
+};
+
+TaskText joined_slots(const char (&slots)[10][256])
+{
+    TaskText joined;
+    memset(joined.text, 0, sizeof joined.text);
+    for (const char(&slot)[256] : slots) {
+        char scratch[32];
+        memset(scratch, 0, sizeof scratch);
+        if (slot[0] == '\0')
+            continue;
+        if (snprintf(scratch, sizeof scratch, "%.*s;", static_cast<int>(sizeof slot), slot) < 0)
+            continue;
+        strcat(joined.text, scratch);
+    }
+    return joined;
+}
+
+/* A weekly task list: seven {indexKey: day, "taskday": the day's slots}. */
+void add_task_list(cJSON *root, const char *listKey, const char *indexKey, const char (&days)[7][10][256])
+{
+    cJSON *list = mw::array(root, listKey);
+    for (int32_t d = 0; d < 7; ++d) {
+        cJSON *day = mw::append_object(list);
+        add(day, indexKey, d);
+        mw::add_string(day, "taskday", joined_slots(days[d]).text);
+    }
+}
+
+/* A shutter or exposure time as the pages show it: two decimals, in a
+   32-byte text. */
+struct Decimal {
+    char text[32];
+};
+
+Decimal two_decimals(double value)
+{
+    Decimal d;
+    snprintf(d.text, sizeof d.text, "%0.2f", value);
+    return d;
+}
+
+/* A raw 0..255 level as a percentage, rounded half up. */
+int32_t percent(uint8_t level)
+{
+    return static_cast<int32_t>(level * 100 / 255.0 + 0.5);
+}
+
+/* The image modes of a sensor, in the order of the per-mode arrays. */
+constexpr const char *kImageModeNames[3] = {"normal", "odd", "even"};
+
+} // namespace
+
+/* ---- image settings, day/night, sensors ---- */
+
+int32_t get_camera_setting_json(const camera_setting_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "powerlineFreq", in->powerlineFreq);
+        add(root, "brightness", in->brightness);
+        add(root, "colorSaturation", in->colorSaturation);
+        add(root, "sharpness", in->sharpness);
+        add(root, "contrast", in->contrast);
+        add(root, "whiteBalanceMode", in->whiteBalanceMode);
+        add(root, "whiteBalanceRedGain", in->whiteBalanceRedGain);
+        add(root, "whiteBalanceBlueGain", in->whiteBalanceBlueGain);
+        add(root, "doorMode", in->doorMode);
+        add(root, "digitalImageStabilisation", in->digitalImageStabilisation);
+        add(root, "dayToNight", in->dayToNight);
+        add(root, "nightToDay", in->nightToDay);
+        add(root, "dayNightSensitivity", in->dayNightSensitivity);
+        add(root, "d2nSensitivity", in->d2nSensitivity);
+        add(root, "n2dSensitivity", in->n2dSensitivity);
+        add(root, "sensorMode", in->sensorMode);
+        add(root, "distortCorrect", in->distortCorrect);
+        add(root, "fovAdjust", in->fovAdjust);
+        add(root, "irBlanceMode", in->irBlanceMode);
+        add(root, "enblur", in->enblur);
+        add(root, "deblur", in->deblur);
+        add(root, "defogMode", in->defogMode);
+        add(root, "antiFogIntensity", in->antiFogIntensity);
+        add(root, "exposureMode", in->exposureMode);
+        add(root, "exposureTime", in->exposureTime);
+        add(root, "exposureGain", in->exposureGain);
+        add(root, "ledMode", in->ledMode);
+        add(root, "nfLevel", in->nfLevel);
+        add(root, "dnr2Level", in->dnr2Level);
+        add(root, "focusMode", in->focusMode);
+        add(root, "aspectRatio", in->aspectRatio);
+        add(root, "zoomLimit", in->zoomLimit);
+        add(root, "smartIrMode", in->smartIrMode);
+        add(root, "nearViewIrLevel", in->nearViewIrLevel);
+        add(root, "middleViewIrLevel", in->middleViewIrLevel);
+        add(root, "farViewIrLevel", in->farViewIrLevel);
+        add(root, "dnSwitchRefocus", in->dnSwitchRefocus);
+        add(root, "smokedDomeCover", in->smokedDomeCover);
+        add(root, "whiteLedLevel", in->whiteLedLevel);
+        add(root, "mirrorCorridor", in->mirrorCorridor);
+        add(root, "imageRotation", in->imageRotation);
+        add(root, "irCutFilter", in->irCutFilter);
+        add(root, "iricrDayHour", in->iricrDayHour);
+        add(root, "iricrDayMinute", in->iricrDayMinute);
+        add(root, "iricrNightHour", in->iricrNightHour);
+        add(root, "iricrNightMinute", in->iricrNightMinute);
+        add(root, "iricrGpinStatus", in->iricrGpinStatus);
+        add(root, "iricrGpinNumber", in->iricrGpinNumber);
+        add(root, "pirDuration", in->pirDuration);
+        add(root, "pirSensitivity", in->pirSensitivity);
+        add(root, "scheduleMode", in->scheduleMode);
+        add(root, "blcRegion", in->blcRegion);
+        add(root, "blcExclusive", in->blcExclusive);
+        add(root, "blcRegionArea", in->blcRegionArea);
+        add(root, "wdrMode", in->wdrMode);
+        add(root, "wdrStartHour", in->wdrStartHour);
+        add(root, "wdrStartMinute", in->wdrStartMinute);
+        add(root, "wdrStopHour", in->wdrStopHour);
+        add(root, "wdrStopMinute", in->wdrStopMinute);
+        add(root, "wdrLevel", in->wdrLevel);
+        add(root, "wdrAflevel", in->wdrAflevel);
+        add(root, "hlcMode", in->hlcMode);
+        add(root, "hlcLevel", in->hlcLevel);
+        add(root, "dayEnhancementMode", in->dayEnhancementMode);
+        add(root, "nightEnhancementMode", in->nightEnhancementMode);
+        if (in->hasLprNightModeInEffect != 0)
+            add(root, "lprNightModeInEffect", in->lprNightModeInEffect);
+        add(root, "mediaUrl", in->mediaUrl);
+        add(root, "mediaWidth", in->mediaWidth);
+        add(root, "mediaHeight", in->mediaHeight);
+        add(root, "lprNight", in->lprNight);
+        add(root, "inlprNight", in->inlprNight);
+        add(root, "fishDisplayMode", in->fishDisplayMode);
+        add(root, "fishCorrectMode", in->fishCorrectMode);
+        add(root, "dayNightMode", in->dayNightMode);
+        add(root, "irSupplemen", in->irSupplemen);
+        add(root, "irisType", in->irisType);
+        add(root, "irisMode", in->irisMode);
+        add_task_list(root, "whiteBalanceTaskdayList", "whiteBalanceIndex", in->whiteBalanceTaskday);
+        add_task_list(root, "exposureTaskdayList", "exposureIndex", in->exposureTaskday);
+        add_task_list(root, "blcWdrHlcTaskdayList", "blcWdrHlcIndex", in->blcWdrHlcTaskday);
+        mw::add_string(root, "dnScheduleTaskday", joined_slots(in->dnScheduleTaskday).text);
+    });
+}
+
+int32_t get_camera_setting_day_night_json(const camera_setting_day_night_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        // The record counts IR-cut intervals from 0, the pages from 1.
+        const camera_day_night_profile &day = in->day;
+        const camera_day_night_profile &night = in->night;
+        add(root, "dayExposureLevel", day.exposureLevel);
+        add(root, "dayMinShutter", day.minShutter);
+        add(root, "dayMaxShutter", day.maxShutter);
+        add(root, "dayLimitGain", day.limitGain);
+        add(root, "dayIrCutInterval", int32_t{day.irCutInterval} + 1);
+        add(root, "dayIrCutStatus", day.irCutStatus);
+        add(root, "dayIrLedStatus", day.irLedStatus);
+        add(root, "dayWhiteLedStatus", day.whiteLedStatus);
+        add(root, "dayColorMode", day.colorMode);
+        add(root, "nightExposureLevel", night.exposureLevel);
+        add(root, "nightMinShutter", night.minShutter);
+        add(root, "nightMaxShutter", night.maxShutter);
+        add(root, "nightLimitGain", night.limitGain);
+        add(root, "nightIrCutInterval", int32_t{night.irCutInterval} + 1);
+        add(root, "nightIrCutStatus", night.irCutStatus);
+        add(root, "nightIrLedStatus", night.irLedStatus);
+        add(root, "nightWhiteLedStatus", night.whiteLedStatus);
+        add(root, "nightColorMode", night.colorMode);
+        add(root, "isSupportWhiteledGroup", in->isSupportWhiteledGroup);
+        add(root, "dayWhiteledGroup", in->dayWhiteledGroup);
+        add(root, "nightWhiteledGroup", in->nightWhiteledGroup);
+    });
+}
+
+int32_t get_camera_day_night_schedule_json(const camera_day_night_schedule_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        cJSON *list = mw::array(root, "dayNightSchedule");
+        for (int32_t i = 0; i < 5; ++i) {
+            cJSON *entry = mw::append_object(list);
+            add(entry, "index", i);
+            add(entry, "schedule", in->schedule[i]);
+        }
+    });
+}
+
+int32_t get_camera_sensor_image_json(const camera_sensor_image_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "powerlineFreq", in->powerlineFreq);
+        add(root, "imageMode", in->imageMode);
+        add(root, "trafficScene", in->trafficScene);
+        add(root, "digitalStabilisation", in->digitalStabilisation);
+        add(root, "flashIntensity", in->flashIntensity);
+        add(root, "parityFlashing", in->parityFlashing);
+        add(root, "flashOffsetFirst", in->flashOffsetFirst);
+        add(root, "flashOffsetSecond", in->flashOffsetSecond);
+        add(root, "flashAeExpTimeFirst", in->flashAeExpTimeFirst);
+        add(root, "flashAeExpTimeSecond", in->flashAeExpTimeSecond);
+        cJSON *list = mw::array(root, "sensorList");
+        for (int32_t i = 0; i < 2; ++i) {
+            const camera_sensor_image_entry &s = in->sensors[i];
+            cJSON *sensor = mw::append_object(list);
+            add(sensor, "sensorIndex", i);
+            add(sensor, "irisMode", in->irisMode[i]);
+            add(sensor, "daynight", s.daynight);
+            add(sensor, "strobelightDay", s.strobelightDay[0]);
+            add(sensor, "strobelightNight", s.strobelightNight[0]);
+            for (int32_t m = 0; m < 3; ++m) {
+                cJSON *mode = mw::object(sensor, kImageModeNames[m]);
+                mw::add_string(mode, "maxshutterDay", two_decimals(s.maxshutterDay[m]).text);
+                mw::add_string(mode, "maxshutterNight", two_decimals(s.maxshutterNight[m]).text);
+                add(mode, "limitGainlevelDay", s.limitGainlevelDay[m]);
+                add(mode, "limitGainlevelNight", s.limitGainlevelNight[m]);
+                add(mode, "targetBrightnessDay", s.targetBrightnessDay[m]);
+                add(mode, "targetBrightnessNight", s.targetBrightnessNight[m]);
+                mw::add_string(mode, "manualExposetimeDay", two_decimals(s.manualExposetimeDay[m]).text);
+                mw::add_string(mode, "manualExposetimeNight", two_decimals(s.manualExposetimeNight[m]).text);
+                add(mode, "manualGainlevelDay", s.manualGainlevelDay[m]);
+                add(mode, "manualGainlevelNight", s.manualGainlevelNight[m]);
+                add(mode, "brightness", percent(s.brightness[m]));
+                add(mode, "contrast", percent(s.contrast[m]));
+                add(mode, "saturation", percent(s.saturation[m]));
+            }
+        }
+    });
+}

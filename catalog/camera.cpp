@@ -141,6 +141,92 @@ camera_sensor_image_record sample_sensor_image()
     return r;
 }
 
+// Privacy masks of a dual-sensor camera facing a residential street: two
+// windows and a doorway hidden on each view.
+camera_mask_record sample_mask()
+{
+    camera_mask_record r{};
+    r.maskEnable[0] = 1;
+    r.maskEnable[1] = 1;
+    r.maskCount = 3;
+    r.maskNum = 8;
+    r.maskMosaicNum = 4;
+    r.maskMaxRatio = 30;
+    put(r.maskColorList, "0,1,2,3");
+    r.maskDifferentColor = 1;
+    r.calibrationEnable = 0;
+    const char *names[3] = {"Window, house 12", "Window, house 14", "Doorway, house 14"};
+    for (int s = 0; s < 2; ++s) {
+        for (int m = 0; m < 3; ++m) {
+            camera_mask_entry &e = r.masks[s][m];
+            e.maskType = static_cast<uint8_t>(m == 2 ? 1 : 0);
+            e.maskX = static_cast<uint32_t>(320 + 560 * m + 40 * s);
+            e.maskY = static_cast<uint32_t>(180 + 60 * m);
+            e.maskWidth = 240;
+            e.maskHeight = static_cast<uint32_t>(m == 2 ? 420 : 200);
+            e.isexist = 1;
+            e.maskShow = 1;
+            e.maskRatio = 12 + 4 * m;
+            put(e.maskName, names[m]);
+        }
+    }
+    return r;
+}
+
+// Hourly snapshots of a loading bay, kept on the card and mailed to the
+// depot office on working days.
+camera_snapshot_settings_record sample_snapshot()
+{
+    camera_snapshot_settings_record r{};
+    r.timingSnapshotEnable = 1;
+    r.intervalValue = 60;
+    r.intervalUnit = 1;
+    r.saveIntoStorage = 1;
+    r.storageFilenameType = 2;
+    put(r.storageBaseFilename, "bay3_snapshot");
+    r.uploadViaHttp = 1;
+    r.targets[0].enable = 1;
+    put(r.targets[0].url, "http://10.20.0.15:8080/snapshots/upload");
+    put(r.targets[0].user, "bay3cam");
+    put(r.targets[0].password, "Sn4p!upload");
+    r.targets[1].enable = 0;
+    put(r.targets[1].url, "ftp://10.20.0.16/incoming");
+    put(r.targets[1].user, "ftpcam");
+    put(r.targets[1].password, "ftp-pass-22");
+    r.uploadViaFtp = 0;
+    r.uploadViaSmtp = 1;
+    for (int d = 1; d <= 5; ++d)
+        put(r.schedule[d], "07:00-19:00");
+    return r;
+}
+
+// Crop tracking over four loading areas, the first two around the clock.
+camera_crop_roi_track_record sample_crop_roi_track()
+{
+    camera_crop_roi_track_record r{};
+    for (int i = 1; i <= 5; ++i) {
+        r.enable[i] = i <= 3 ? 1 : 0;
+        r.zoom[i] = 2 * i;
+    }
+    for (int a = 0; a < 4; ++a)
+        for (int k = 0; k < 7; ++k)
+            put(r.areaSchedule[a][k], a < 2 ? "00:00-23:59" : (k == 0 || k == 6 ? "" : "06:00-20:00"));
+    return r;
+}
+
+// Region-of-interest texts: two regions on the main stream, one on the sub
+// stream and one on the fifth.
+camera_roi_info_record sample_roi_info()
+{
+    camera_roi_info_record r{};
+    r.enable = 1;
+    put(r.roiInfo[0], "1:2:120:80:640:360");
+    put(r.roiInfo[1], "1:1:900:400:1280:720");
+    put(r.roiInfo[8], "1:2:60:40:320:180");
+    put(r.roiInfo[32], "0:1:0:0:176:144");
+    return r;
+}
+
 const CatalogEntry entries[] = {
     {"get_camera_setting_json", "image settings, weekly image-mode task lists and day/night schedule",
      [](char *dst, int32_t n) {
@@ -175,6 +261,94 @@ const CatalogEntry entries[] = {
      [](char *dst, int32_t n) {
          static const camera_sensor_image_record r = sample_sensor_image();
          return get_camera_sensor_image_json(&r, dst, n);
+     }},
+    {"get_camera_ptz_json", "PTZ speed seen from the image page",
+     [](char *dst, int32_t n) {
+         static const camera_ptz_record r = [] {
+             camera_ptz_record p{};
+             p.ptzSpeed = 6;
+             return p;
+         }();
+         return get_camera_ptz_json(&r, dst, n);
+     }},
+    {"get_camera_mask_json", "privacy masks of both sensors",
+     [](char *dst, int32_t n) {
+         static const camera_mask_record r = sample_mask();
+         return get_camera_mask_json(&r, dst, n);
+     }},
+    {"get_camera_snapshot_settings_json", "timed snapshots: storage, uploads, notifications, schedule",
+     [](char *dst, int32_t n) {
+         static const camera_snapshot_settings_record r = sample_snapshot();
+         return get_camera_snapshot_settings_json(&r, dst, n);
+     }},
+    {"get_camera_manual_white_led_settings_json", "white-light flash set by hand",
+     [](char *dst, int32_t n) {
+         static const camera_manual_white_led_settings_record r = [] {
+             camera_manual_white_led_settings_record w{};
+             w.flashTime = 40;
+             w.flashMode = 1;
+             w.effectiveGroup = 2;
+             return w;
+         }();
+         return get_camera_manual_white_led_settings_json(&r, dst, n);
+     }},
+    {"get_camera_white_led_status_json", "white light on or off",
+     [](char *dst, int32_t n) {
+         static const camera_white_led_status_record r{1};
+         return get_camera_white_led_status_json(&r, dst, n);
+     }},
+    {"get_camera_crop_roi_enable_json", "crop regions of interest switched on",
+     [](char *dst, int32_t n) {
+         static const camera_crop_roi_enable_record r{1};
+         return get_camera_crop_roi_enable_json(&r, dst, n);
+     }},
+    {"get_camera_roi_settings_json", "the five crop regions of interest",
+     [](char *dst, int32_t n) {
+         static const camera_roi_settings_record r = [] {
+             camera_roi_settings_record c{};
+             c.regions[0] = camera_crop_roi_entry{1, 0, 0, 0, 0};
+             c.regions[1] = camera_crop_roi_entry{1, 12, 20, 0, 1};
+             c.regions[2] = camera_crop_roi_entry{1, 55, 30, 0, 2};
+             c.regions[3] = camera_crop_roi_entry{0, 0, 0, 0, 1};
+             return c;
+         }();
+         return get_camera_roi_settings_json(&r, dst, n);
+     }},
+    {"get_camera_crop_roi_track_json", "crop-region tracking and the areas' weekly schedules",
+     [](char *dst, int32_t n) {
+         static const camera_crop_roi_track_record r = sample_crop_roi_track();
+         return get_camera_crop_roi_track_json(&r, dst, n);
+     }},
+    {"get_camera_white_led_parameter_json", "white light on alarm, group number, manual mode",
+     [](char *dst, int32_t n) {
+         static const camera_white_led_parameter_record r{1, 2, 0};
+         return get_camera_white_led_parameter_json(&r, dst, n);
+     }},
+    {"get_camera_roi_info_json", "region-of-interest texts per stream",
+     [](char *dst, int32_t n) {
+         static const camera_roi_info_record r = sample_roi_info();
+         return get_camera_roi_info_json(&r, dst, n);
+     }},
+    {"get_camera_lens_json", "iris type and mode, zoom position",
+     [](char *dst, int32_t n) {
+         static const camera_lens_record r = [] {
+             camera_lens_record l{};
+             l.lensIrisType = 1;
+             l.lensIrisMode = 2;
+             l.lensZoomPos = 37;
+             return l;
+         }();
+         return get_camera_lens_json(&r, dst, n);
+     }},
+    {"get_camera_while_led_json", "white-light control: mode, sensitivity, timed window, brightness",
+     [](char *dst, int32_t n) {
+         static const camera_while_led_record r{2, 3, 30, 19, 30, 6, 15, 1, 70, 0};
+         return get_camera_while_led_json(&r, dst, n);
+     }},
+    {"get_camera_ir_value_json", "IR light sensor reading and illuminator strengths",
+     [](char *dst, int32_t n) {
+         static const camera_ir_value_record r{412, 0, 35, 60, 85, 40, 55};
+         return get_camera_ir_value_json(&r, dst, n);
      }},
 };
 

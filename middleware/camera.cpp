@@ -246,3 +246,195 @@ int32_t get_camera_sensor_image_json(const camera_sensor_image_record *in, char 
         }
     });
 }
+
+/* ---- masks, regions of interest, snapshots, lights, lens ---- */
+
+int32_t get_camera_ptz_json(const camera_ptz_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) { add(root, "ptzSpeed", in->ptzSpeed); });
+}
+
+int32_t get_camera_mask_json(const camera_mask_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "calibrationEnable", in->calibrationEnable);
+        add(root, "maskNum", in->maskNum);
+        add(root, "maskMosaicNum", in->maskMosaicNum);
+        add(root, "maskMaxRatio", in->maskMaxRatio);
+        add(root, "maskColorList", in->maskColorList);
+        add(root, "maskDifferentColor", in->maskDifferentColor);
+        // Both sensors list the same number of masks. The producer keeps the
+        // count within the 24 slots; should it not, the list stops at the
+        // last slot rather than read past the record.
+        const int32_t slots = static_cast<int32_t>(sizeof in->masks[0] / sizeof in->masks[0][0]);
+        const int32_t count = in->maskCount < slots ? in->maskCount : slots;
+        cJSON *sensors = mw::array(root, "sensorList");
+        for (int32_t s = 0; s < 2; ++s) {
+            cJSON *sensor = mw::append_object(sensors);
+            add(sensor, "sensorIndex", s);
+            add(sensor, "maskEnable", in->maskEnable[s]);
+            cJSON *masks = mw::array(sensor, "maskList");
+            for (int32_t m = 0; m < count; ++m) {
+                const camera_mask_entry &e = in->masks[s][m];
+                cJSON *mask = mw::append_object(masks);
+                add(mask, "index", m);
+                add(mask, "maskX", e.maskX);
+                add(mask, "maskY", e.maskY);
+                add(mask, "maskWidth", e.maskWidth);
+                add(mask, "maskHeight", e.maskHeight);
+                add(mask, "maskType", e.maskType);
+                add(mask, "maskShow", e.maskShow);
+                add(mask, "maskRatio", e.maskRatio);
+                add(mask, "isexist", e.isexist);
+                add(mask, "maskName", e.maskName);
+            }
+        }
+    });
+}
+
+int32_t get_camera_snapshot_settings_json(const camera_snapshot_settings_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "timingSnapshotEnable", in->timingSnapshotEnable);
+        add(root, "intervalValue", in->intervalValue);
+        add(root, "intervalUnit", in->intervalUnit);
+        add(root, "saveIntoStorage", in->saveIntoStorage);
+        add(root, "storageFilenameType", in->storageFilenameType);
+        add(root, "storageBaseFilename", in->storageBaseFilename);
+        add(root, "uploadViaFtp", in->uploadViaFtp);
+        add(root, "uploadViaSmtp", in->uploadViaSmtp);
+        add(root, "uploadViaHttp", in->uploadViaHttp); // last, though stored first
+        cJSON *notify = mw::array(root, "notifyList");
+        for (int32_t t = 0; t < 3; ++t) {
+            const camera_snapshot_notify_entry &target = in->targets[t];
+            cJSON *entry = mw::append_object(notify);
+            add(entry, "index", t);
+            add(entry, "enable", target.enable);
+            add(entry, "url", target.url);
+            add(entry, "user", target.user);
+            add(entry, "password", target.password);
+        }
+        mw::add_schedule_list(root, in->schedule);
+    });
+}
+
+int32_t get_camera_manual_white_led_settings_json(const camera_manual_white_led_settings_record *in, char *dst,
+                                                  int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "effectiveGroup", in->effectiveGroup);
+        add(root, "flashMode", in->flashMode);
+        add(root, "flashTime", in->flashTime);
+    });
+}
+
+int32_t get_camera_white_led_status_json(const camera_white_led_status_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) { add(root, "whiteLedStatus", in->whiteLedStatus); });
+}
+
+int32_t get_camera_crop_roi_enable_json(const camera_crop_roi_enable_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) { add(root, "cropRoiEnable", in->cropRoiEnable); });
+}
+
+int32_t get_camera_roi_settings_json(const camera_roi_settings_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        // Slot 0 is the full picture; the regions are 1..5 and named so.
+        for (int32_t i = 1; i <= 5; ++i) {
+            const camera_crop_roi_entry &r = in->regions[i];
+            add(root, mw::Key<32>("cropRoiExist_%d", i), r.exist);
+            add(root, mw::Key<32>("cropRoiLeft_%d", i), r.left);
+            add(root, mw::Key<32>("cropRoiTop_%d", i), r.top);
+            add(root, mw::Key<32>("cropRoiType_%d", i), r.type);
+        }
+    });
+}
+
+int32_t get_camera_crop_roi_track_json(const camera_crop_roi_track_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        for (int32_t i = 1; i <= 5; ++i) {
+            add(root, mw::Key<32>("enable_%d", i), in->enable[i]);
+            add(root, mw::Key<32>("zoom_%d", i), in->zoom[i]);
+        }
+        // Areas are numbered from 1 in the keys, their days from 0.
+        for (int32_t a = 0; a < 4; ++a)
+            for (int32_t k = 0; k < 7; ++k)
+                add(root, mw::Key<32>("area_%d_CommSche_%d", a + 1, k), in->areaSchedule[a][k]);
+    });
+}
+
+int32_t get_camera_white_led_parameter_json(const camera_white_led_parameter_record *in, char *dst,
+                                            int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "alarm", in->alarm);
+        add(root, "number", in->number);
+        add(root, "manual", in->manual);
+    });
+}
+
+int32_t get_camera_roi_info_json(const camera_roi_info_record *in, char *dst, int32_t dstSize)
+{
+    // The region texts of the five streams, one stretch of roiInfo each; the
+    // fifth stream has one region fewer.
+    struct Stream {
+        const char *key;
+        int32_t first;
+        int32_t count;
+    };
+    static constexpr Stream kStreams[] = {
+        {"mainList", 0, 8}, {"subList", 8, 8}, {"thirdList", 16, 8}, {"fourthList", 24, 8}, {"fifthList", 32, 7},
+    };
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "enable", in->enable);
+        for (const Stream &stream : kStreams) {
+            cJSON *list = mw::array(root, stream.key);
+            for (int32_t i = 0; i < stream.count; ++i) {
+                cJSON *entry = mw::append_object(list);
+                add(entry, "index", i);
+                add(entry, "roiInfo", in->roiInfo[stream.first + i]);
+            }
+        }
+    });
+}
+
+int32_t get_camera_lens_json(const camera_lens_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "lensIrisType", in->lensIrisType);
+        add(root, "lensIrisMode", in->lensIrisMode);
+        add(root, "lensZoomPos", in->lensZoomPos);
+    });
+}
+
+int32_t get_camera_while_led_json(const camera_while_led_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "lightCtrl", in->lightCtrl);
+        add(root, "sensitivity", in->sensitivity);
+        add(root, "delayTime", in->delayTime);
+        add(root, "startHour", in->startHour);
+        add(root, "startMin", in->startMin);
+        add(root, "stopHour", in->stopHour);
+        add(root, "stopMin", in->stopMin);
+        add(root, "brightnessCtrl", in->brightnessCtrl);
+        add(root, "brightness", in->brightness);
+        add(root, "isWhiteLedExternal", in->isWhiteLedExternal);
+    });
+}
+
+int32_t get_camera_ir_value_json(const camera_ir_value_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "irSensorValue", in->irSensorValue);
+        add(root, "inlprNight", in->inlprNight);
+        add(root, "nearIrStrength", in->nearIrStrength);
+        add(root, "midIrStrength", in->midIrStrength);
+        add(root, "farIrStrength", in->farIrStrength);
+        add(root, "smartIrStrengthWhite", in->smartIrStrengthWhite);
+        add(root, "smartIrStrengthSupplement", in->smartIrStrengthSupplement);
+    });
+}

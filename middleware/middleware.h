@@ -525,6 +525,210 @@ MW_API int32_t get_camera_sensor_image_json(const camera_sensor_image_record *in
 
 /* ---- end image settings, day/night, sensors ---- */
 
+/* ---- masks, regions of interest, snapshots, lights, lens ---- */
+
+/* The PTZ speed as the image page shows it. The leading member (width of our
+   choosing) is not in the document. */
+typedef struct camera_ptz_record {
+    int32_t reserved0;                 /* not in the document */
+    int32_t ptzSpeed;
+} camera_ptz_record;
+
+/* One privacy mask of a sensor. Coordinates and size are in the sensor's
+   pixels. The unread members (widths of our choosing) are not in the
+   document. */
+typedef struct camera_mask_entry {
+    int32_t reserved0;                 /* not in the document */
+    uint8_t maskType;
+    uint32_t maskX;
+    uint32_t maskY;
+    uint32_t maskWidth;
+    uint32_t maskHeight;
+    uint32_t reserved1;                /* not in the document */
+    uint8_t isexist;                   /* non-zero: the mask is drawn */
+    uint8_t maskShow;
+    int32_t maskRatio;
+    int32_t reserved2;                 /* not in the document */
+    char maskName[128];
+} camera_mask_entry;
+
+/* The privacy-mask page: per sensor an enable flag and 24 mask slots, of
+   which the first maskCount (the same for both sensors) are listed. */
+typedef struct camera_mask_record {
+    int32_t maskEnable[2];             /* one per sensor */
+    int32_t maskCount;                 /* masks listed per sensor, 0..24 */
+    int32_t maskNum;
+    int32_t maskMosaicNum;
+    int32_t maskMaxRatio;
+    char maskColorList[16];
+    int32_t maskDifferentColor;
+    int32_t calibrationEnable;
+    camera_mask_entry masks[2][24];    /* [sensor][mask] */
+} camera_mask_record;
+
+/* One place a timed snapshot is announced to. The record is packed byte-wise
+   as the snapshot task stores it; the text widths are ours (URL 128, user
+   name 64, password 64). */
+typedef struct __attribute__((packed)) camera_snapshot_notify_entry {
+    uint8_t enable;
+    char url[128];
+    char user[64];
+    char password[64];
+} camera_snapshot_notify_entry;
+
+/* The timed-snapshot page: interval, local storage, the upload channels, the
+   three notification targets and the weekly schedule. Packed byte-wise (no
+   member is aligned); the base file name's width (64) is ours. */
+typedef struct __attribute__((packed)) camera_snapshot_settings_record {
+    uint8_t timingSnapshotEnable;
+    uint32_t intervalValue;
+    uint8_t intervalUnit;
+    uint8_t saveIntoStorage;
+    uint8_t storageFilenameType;
+    char storageBaseFilename[64];
+    uint8_t uploadViaHttp;
+    camera_snapshot_notify_entry targets[3];
+    uint8_t uploadViaFtp;
+    uint8_t uploadViaSmtp;
+    char schedule[7][256];             /* day 0..6 */
+} camera_snapshot_settings_record;
+
+/* The white-light flash set by hand. The leading member is not in the
+   document, which lists the three settings in the reverse order. */
+typedef struct camera_manual_white_led_settings_record {
+    uint32_t reserved0;                /* not in the document */
+    uint32_t flashTime;
+    uint32_t flashMode;
+    uint32_t effectiveGroup;
+} camera_manual_white_led_settings_record;
+
+typedef struct camera_white_led_status_record {
+    int32_t whiteLedStatus;
+} camera_white_led_status_record;
+
+typedef struct camera_crop_roi_enable_record {
+    int32_t cropRoiEnable;
+} camera_crop_roi_enable_record;
+
+/* One crop region of interest. */
+typedef struct camera_crop_roi_entry {
+    uint8_t exist;                     /* non-zero: the region is set */
+    uint8_t left;
+    uint8_t top;
+    uint8_t reserved0;                 /* not in the document */
+    uint32_t type;
+} camera_crop_roi_entry;
+
+/* The crop regions: slots 1..5 are the regions the page shows; slot 0 is the
+   full picture and never reported. */
+typedef struct camera_roi_settings_record {
+    int32_t reserved0;                 /* not in the document */
+    camera_crop_roi_entry regions[6];
+} camera_roi_settings_record;
+
+/* Tracking of the crop regions: per region (slots 1..5; slot 0 unused) an
+   enable flag and a zoom, and each tracking area's weekly schedule. */
+typedef struct camera_crop_roi_track_record {
+    int32_t enable[6];
+    int32_t zoom[6];
+    char areaSchedule[4][7][256];      /* [area 0..3][day 0..6] */
+} camera_crop_roi_track_record;
+
+/* The white light's alarm, number and manual settings. */
+typedef struct camera_white_led_parameter_record {
+    int32_t alarm;
+    int32_t number;
+    int32_t manual;
+} camera_white_led_parameter_record;
+
+/* The region-of-interest texts per stream: entries 0..7 belong to the main
+   stream, 8..15 to the sub stream, 16..23 to the third, 24..31 to the fourth
+   and 32..38 (seven only) to the fifth. */
+typedef struct camera_roi_info_record {
+    int32_t enable;
+    int32_t reserved0;                 /* not in the document */
+    char roiInfo[39][64];
+} camera_roi_info_record;
+
+/* The motorised lens. The unread stretches (a 32-bit member first, two bytes
+   before the zoom position; widths of our choosing) are not in the
+   document. */
+typedef struct camera_lens_record {
+    int32_t reserved0;                 /* not in the document */
+    uint8_t lensIrisType;
+    uint8_t lensIrisMode;
+    uint8_t reserved1[2];              /* not in the document */
+    uint8_t lensZoomPos;
+} camera_lens_record;
+
+/* The white-light control: mode, light sensitivity, switch-off delay, the
+   timed window and the brightness. */
+typedef struct camera_while_led_record {
+    int32_t lightCtrl;
+    int32_t sensitivity;
+    int32_t delayTime;
+    int32_t startHour;
+    int32_t startMin;
+    int32_t stopHour;
+    int32_t stopMin;
+    int32_t brightnessCtrl;
+    int32_t brightness;
+    int32_t isWhiteLedExternal;        /* 1: an external lamp is wired */
+} camera_while_led_record;
+
+/* The IR illuminator: the light sensor's reading and the strengths. */
+typedef struct camera_ir_value_record {
+    int32_t irSensorValue;
+    int32_t inlprNight;
+    int32_t nearIrStrength;
+    int32_t midIrStrength;
+    int32_t farIrStrength;
+    int32_t smartIrStrengthWhite;
+    int32_t smartIrStrengthSupplement;
+} camera_ir_value_record;
+
+/* {"ptzSpeed"} */
+MW_API int32_t get_camera_ptz_json(const camera_ptz_record *in, char *dst, int32_t dstSize);
+/* The mask settings and "sensorList": two sensors, each with its first
+   maskCount masks as "maskList" (index from 0). A maskCount below 1 lists no
+   mask; one above 24 would run past the slots and is listed as 24. */
+MW_API int32_t get_camera_mask_json(const camera_mask_record *in, char *dst, int32_t dstSize);
+/* Snapshot timing and storage, "uploadViaFtp", "uploadViaSmtp",
+   "uploadViaHttp" in that order, "notifyList" (3) and "scheduleList" (7). */
+MW_API int32_t get_camera_snapshot_settings_json(const camera_snapshot_settings_record *in, char *dst,
+                                                 int32_t dstSize);
+/* "effectiveGroup", "flashMode", "flashTime". */
+MW_API int32_t get_camera_manual_white_led_settings_json(const camera_manual_white_led_settings_record *in,
+                                                         char *dst, int32_t dstSize);
+/* {"whiteLedStatus"} */
+MW_API int32_t get_camera_white_led_status_json(const camera_white_led_status_record *in, char *dst,
+                                                int32_t dstSize);
+/* {"cropRoiEnable"} */
+MW_API int32_t get_camera_crop_roi_enable_json(const camera_crop_roi_enable_record *in, char *dst,
+                                               int32_t dstSize);
+/* "cropRoiExist_%d", "cropRoiLeft_%d", "cropRoiTop_%d", "cropRoiType_%d" for
+   regions 1..5, named by the region's slot number. */
+MW_API int32_t get_camera_roi_settings_json(const camera_roi_settings_record *in, char *dst,
+                                            int32_t dstSize);
+/* "enable_%d" and "zoom_%d" for regions 1..5, then "area_%d_CommSche_%d" for
+   areas 1..4 (numbered from 1) and days 0..6 (numbered from 0). */
+MW_API int32_t get_camera_crop_roi_track_json(const camera_crop_roi_track_record *in, char *dst,
+                                              int32_t dstSize);
+/* "alarm", "number", "manual". */
+MW_API int32_t get_camera_white_led_parameter_json(const camera_white_led_parameter_record *in, char *dst,
+                                                   int32_t dstSize);
+/* "enable" and the lists "mainList", "subList", "thirdList", "fourthList"
+   (8 texts each) and "fifthList" (7), each indexed from 0 within its list. */
+MW_API int32_t get_camera_roi_info_json(const camera_roi_info_record *in, char *dst, int32_t dstSize);
+/* "lensIrisType", "lensIrisMode", "lensZoomPos". */
+MW_API int32_t get_camera_lens_json(const camera_lens_record *in, char *dst, int32_t dstSize);
+/* The white-light control settings (the exported name keeps its spelling). */
+MW_API int32_t get_camera_while_led_json(const camera_while_led_record *in, char *dst, int32_t dstSize);
+/* The IR sensor value and strengths. */
+MW_API int32_t get_camera_ir_value_json(const camera_ir_value_record *in, char *dst, int32_t dstSize);
+
+/* ---- end masks, regions of interest, snapshots, lights, lens ---- */
+
 /* ===== end camera image ===== */
 
 /* ===== video ===== */

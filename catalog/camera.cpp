@@ -227,6 +227,94 @@ camera_roi_info_record sample_roi_info()
     return r;
 }
 
+// A 12-megapixel fisheye over a shop floor: four presets on the tills, the
+// entrance and the stock-room door, stored in the first free slots.
+camera_fish_presets_record sample_fish_presets()
+{
+    camera_fish_presets_record r{};
+    struct Preset {
+        int slot;
+        int32_t id;
+        double pan;
+        double tilt;
+        const char *name;
+    } presets[] = {
+        {0, 1, 35.5, 62.25, "Till 1"},
+        {1, 2, 118.0, 58.75, "Till 2"},
+        {2, 5, 241.125, 40.5, "Entrance"},
+        {4, 7, 302.0, 71.0, "Stock-room door"},
+    };
+    for (const Preset &p : presets) {
+        ptz_preset_entry &e = r.entries[p.slot];
+        e.firstCoordinate = p.pan;
+        e.secondCoordinate = p.tilt;
+        e.leadingNumber = 1;
+        e.id = p.id;
+        put(e.name, p.name);
+    }
+    return r;
+}
+
+// A PTZ dome's capability flags; the sample asks for the PTZ basics group.
+camera_all_capability_record sample_all_capability()
+{
+    camera_all_capability_record r{};
+    r.group = 102;
+    r.ptzControl = 1;
+    r.whiteLed = 0;
+    r.manualTrack = 1;
+    r.liveAutoTracking = 1;
+    r.dehumidifying = 0;
+    r.threeDPosition = 1;
+    r.oneTouch = 1;
+    r.autohome = 1;
+    r.preset = 1;
+    r.patrol = 1;
+    r.pattern = 1;
+    r.zcontrol = 1;
+    r.zslider = 1;
+    r.focus = 1;
+    r.lensInitialization = 1;
+    r.auxiliaryFocus = 1;
+    r.autoirisAlwaysOpen = 0;
+    r.autoirisClickable = 1;
+    r.basic = 1;
+    r.manualSpeed = 1;
+    r.patrolRecorvery = 1;
+    r.miniFocusDistance = 1;
+    r.ptzLimits = 1;
+    r.topAndBottomLimit = 1;
+    r.initialPosition = 1;
+    r.privacyMask = 1;
+    r.scheduledTask = 1;
+    r.tiltScan = 1;
+    r.panoramaScan = 1;
+    r.configClear = 1;
+    r.clearInitialPosition = 1;
+    r.rs485 = 1;
+    r.status = 1;
+    r.heater = 0;
+    r.audio = 1;
+    r.smartIrMode = 1;
+    r.smartIrModeAuto = 1;
+    r.smartIrModeViewLevel = 1;
+    r.smartIrModeMiddleLevel = 1;
+    r.smokedDomecover = 1;
+    r.zoomLimit = 1;
+    r.digitalImageStabilisation = 1;
+    r.focusMode = 1;
+    r.lensType = 2;
+    r.dayNightSliderRange_1_100 = 1;
+    r.dayNightSliderDefult_20_60 = 1;
+    r.imageMask = 1;
+    r.audioEvent = 1;
+    r.alarmInputEvent = 1;
+    r.alarmOutputEvent = 1;
+    r.vca = 1;
+    r.streamPreset = 1;
+    return r;
+}
+
 const CatalogEntry entries[] = {
     {"get_camera_setting_json", "image settings, weekly image-mode task lists and day/night schedule",
      [](char *dst, int32_t n) {
@@ -349,6 +437,26 @@ const CatalogEntry entries[] = {
      [](char *dst, int32_t n) {
          static const camera_ir_value_record r{412, 0, 35, 60, 85, 40, 55};
          return get_camera_ir_value_json(&r, dst, n);
+     }},
+    {"get_camera_model_general_json", "what the camera model supports",
+     [](char *dst, int32_t n) {
+         static const camera_model_general_record r{1, 1, 0, 1, 1, 1, 0, 1, 30, 1, 3, 1, 4, 1, 0, 0, 0, 1};
+         return get_camera_model_general_json(&r, dst, n);
+     }},
+    {"get_camera_fish_presets_json", "the fisheye views' presets, one key per preset id",
+     [](char *dst, int32_t n) {
+         static const camera_fish_presets_record r = sample_fish_presets();
+         return get_camera_fish_presets_json(&r, dst, n);
+     }},
+    {"get_camera_fish_view_field_json", "the fisheye's field of view",
+     [](char *dst, int32_t n) {
+         static const camera_fish_view_field_record r{180};
+         return get_camera_fish_view_field_json(&r, dst, n);
+     }},
+    {"get_camera_all_capability_json", "one group of capability flags, selected by its code",
+     [](char *dst, int32_t n) {
+         static const camera_all_capability_record r = sample_all_capability();
+         return get_camera_all_capability_json(&r, dst, n);
      }},
 };
 

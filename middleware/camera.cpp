@@ -438,3 +438,147 @@ int32_t get_camera_ir_value_json(const camera_ir_value_record *in, char *dst, in
         add(root, "smartIrStrengthSupplement", in->smartIrStrengthSupplement);
     });
 }
+
+/* ---- model flags, capability groups, fisheye presets ---- */
+
+int32_t get_camera_model_general_json(const camera_model_general_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "ioSupport", in->ioSupport);
+        add(root, "audioSupport", in->audioSupport);
+        add(root, "fisheyeSupport", in->fisheyeSupport);
+        add(root, "vcaSupport", in->vcaSupport);
+        add(root, "audioAlarmSupport", in->audioAlarmSupport);
+        add(root, "ledSupport", in->ledSupport);
+        add(root, "ledGroupSupport", in->ledGroupSupport);
+        add(root, "ptzSupport", in->ptzSupport);
+        add(root, "ptzMaxZoomTimes", in->ptzMaxZoomTimes);
+        add(root, "realPtzSupport", in->realPtzSupport);
+        if (in->vcaSupport != 0)
+            add(root, "vcaType", in->vcaType);
+        add(root, "lprSupport", in->lprSupport);
+        if (in->lprSupport != 0)
+            add(root, "lprVersion", in->lprVersion);
+        add(root, "faceSupport", in->faceSupport); // before iotSupport, though stored after it
+        add(root, "iotSupport", in->iotSupport);
+        add(root, "isSpeedDm", in->isSpeedDm);
+        add(root, "lessAlarmInterface", in->lessAlarmInterface);
+        add(root, "lessDeviceInterface", in->lessDeviceInterface);
+    });
+}
+
+int32_t get_camera_fish_presets_json(const camera_fish_presets_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        // No array here: each used slot becomes a root key named after its
+        // id, in slot order.
+        for (const ptz_preset_entry &p : in->entries) {
+            if (p.id == 0)
+                continue;
+            const mw::Key<128> value("%d:%lf:%lf:%.*s", p.leadingNumber, p.firstCoordinate, p.secondCoordinate,
+                                     static_cast<int>(sizeof p.name), p.name);
+            mw::add_string(root, mw::Key<32>("preset_%d", p.id), value);
+        }
+    });
+}
+
+int32_t get_camera_fish_view_field_json(const camera_fish_view_field_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) { add(root, "fisheyeViewField", in->fisheyeViewField); });
+}
+
+int32_t get_camera_all_capability_json(const camera_all_capability_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        switch (in->group) {
+        case 100: // PTZ control
+            add(root, "ptzControl", in->ptzControl);
+            add(root, "whiteLed", in->whiteLed);
+            add(root, "manualTrack", in->manualTrack);
+            add(root, "liveAutoTracking", in->liveAutoTracking);
+            add(root, "dehumidifying", in->dehumidifying);
+            add(root, "3dPosition", in->threeDPosition);
+            add(root, "oneTouch", in->oneTouch);
+            add(root, "autohome", in->autohome);
+            add(root, "preset", in->preset);
+            add(root, "patrol", in->patrol);
+            add(root, "pattern", in->pattern);
+            break;
+        case 101: // zoom, focus and iris
+            add(root, "zcontrol", in->zcontrol);
+            add(root, "zslider", in->zslider);
+            add(root, "focus", in->focus);
+            add(root, "lensInitialization", in->lensInitialization);
+            add(root, "auxiliaryFocus", in->auxiliaryFocus);
+            add(root, "autoirisAlwaysOpen", in->autoirisAlwaysOpen);
+            add(root, "autoirisClickable", in->autoirisClickable);
+            break;
+        case 102: // PTZ basics; the PTZ settings page reads autohome and auto tracking here too
+            add(root, "basic", in->basic);
+            add(root, "manualSpeed", in->manualSpeed);
+            add(root, "patrolRecorvery", in->patrolRecorvery);
+            add(root, "miniFocusDistance", in->miniFocusDistance);
+            add(root, "autohome", in->autohome);
+            add(root, "ptzLimits", in->ptzLimits);
+            add(root, "topAndBottomLimit", in->topAndBottomLimit);
+            add(root, "initialPosition", in->initialPosition);
+            add(root, "privacyMask", in->privacyMask);
+            add(root, "scheduledTask", in->scheduledTask);
+            add(root, "tiltScan", in->tiltScan);
+            add(root, "panoramaScan", in->panoramaScan);
+            add(root, "autoTracking", in->liveAutoTracking);
+            add(root, "configClear", in->configClear);
+            add(root, "clearInitialPosition", in->clearInitialPosition);
+            add(root, "rs485", in->rs485);
+            add(root, "status", in->status);
+            add(root, "heater", in->heater);
+            break;
+        case 103: // plate recognition
+            add(root, "lpr", in->lpr);
+            add(root, "confidenceLevel", in->confidenceLevel);
+            add(root, "dayNightDetection", in->dayNightDetection);
+            add(root, "speedDetection", in->speedDetection);
+            add(root, "regionFeatures", in->regionFeatures);
+            break;
+        case 104: // audio, smart IR and lens
+            add(root, "audio", in->audio);
+            add(root, "smartIrMode", in->smartIrMode);
+            add(root, "smartIrModeAuto", in->smartIrModeAuto);
+            add(root, "smartIrModeViewLevel", in->smartIrModeViewLevel);
+            add(root, "smartIrModeMiddleLevel", in->smartIrModeMiddleLevel);
+            add(root, "smartIrModeWhiteLevel", in->smartIrModeWhiteLevel);
+            add(root, "localDisplayVideo", in->localDisplayVideo);
+            add(root, "smokedDomecover", in->smokedDomecover);
+            add(root, "keepAspectRatio", in->keepAspectRatio);
+            add(root, "zoomLimit", in->zoomLimit);
+            add(root, "lensDistortCorrect", in->lensDistortCorrect);
+            break;
+        case 105: // stabilisation and focus
+            add(root, "digitalImageStabilisation", in->digitalImageStabilisation);
+            add(root, "focusMode", in->focusMode);
+            add(root, "lensType", in->lensType);
+            add(root, "reduceVideoStuttering", in->reduceVideoStuttering);
+            break;
+        case 106: // day/night
+            add(root, "dayNightWhiteLed", in->whiteLed);
+            add(root, "dayNightSliderRange_1_10", in->dayNightSliderRange_1_10);
+            add(root, "dayNightSliderRange_1_100", in->dayNightSliderRange_1_100);
+            add(root, "dayNightSliderDefult_20_60", in->dayNightSliderDefult_20_60);
+            break;
+        case 107: // image mask
+            add(root, "imageMask", in->imageMask);
+            break;
+        case 108: // events; both alarm keys report the alarm output's flag
+            add(root, "audioEvent", in->audioEvent);
+            add(root, "alarmInputEvent", in->alarmOutputEvent);
+            add(root, "alarmOutputEvent", in->alarmOutputEvent);
+            add(root, "vca", in->vca);
+            break;
+        case 109: // stream preset
+            add(root, "streamPreset", in->streamPreset);
+            break;
+        default: // no such group: nothing to report
+            break;
+        }
+    });
+}

@@ -729,6 +729,131 @@ MW_API int32_t get_camera_ir_value_json(const camera_ir_value_record *in, char *
 
 /* ---- end masks, regions of interest, snapshots, lights, lens ---- */
 
+/* ---- model flags, capability groups, fisheye presets ---- */
+
+/* What this camera model has, as the web pages test it (1 = supported). */
+typedef struct camera_model_general_record {
+    int32_t ioSupport;
+    int32_t audioSupport;
+    int32_t fisheyeSupport;
+    int32_t vcaSupport;
+    int32_t audioAlarmSupport;
+    int32_t ledSupport;
+    int32_t ledGroupSupport;
+    int32_t ptzSupport;
+    int32_t ptzMaxZoomTimes;
+    int32_t realPtzSupport;
+    int32_t vcaType;                   /* reported only when vcaSupport is non-zero */
+    int32_t lprSupport;
+    int32_t lprVersion;                /* reported only when lprSupport is non-zero */
+    int32_t isSpeedDm;
+    int32_t lessAlarmInterface;
+    int32_t lessDeviceInterface;
+    int32_t iotSupport;
+    int32_t faceSupport;
+} camera_model_general_record;
+
+/* The presets of the fisheye views: 300 preset slots, a slot with id 0 is
+   empty. */
+typedef struct camera_fish_presets_record {
+    ptz_preset_entry entries[300];
+} camera_fish_presets_record;
+
+/* The fisheye's field of view. */
+typedef struct camera_fish_view_field_record {
+    int32_t fisheyeViewField;
+} camera_fish_view_field_record;
+
+/* The capability flags of the image, PTZ and event pages, of which one group
+   is reported per request. `group` picks it: 100 PTZ control, 101 zoom, focus
+   and iris, 102 PTZ basics, 103 plate recognition, 104 audio, smart IR and
+   lens, 105 stabilisation and focus, 106 day/night, 107 image mask,
+   108 events and analytics, 109 stream preset. */
+typedef struct camera_all_capability_record {
+    int32_t group;
+    int32_t ptzControl;
+    int32_t whiteLed;
+    int32_t manualTrack;
+    int32_t liveAutoTracking;
+    int32_t dehumidifying;
+    int32_t threeDPosition;            /* key "3dPosition" */
+    int32_t oneTouch;
+    int32_t autohome;
+    int32_t preset;
+    int32_t patrol;
+    int32_t pattern;
+    int32_t zcontrol;
+    int32_t zslider;
+    int32_t focus;
+    int32_t lensInitialization;
+    int32_t auxiliaryFocus;
+    int32_t autoirisAlwaysOpen;
+    int32_t autoirisClickable;
+    int32_t basic;
+    int32_t manualSpeed;
+    int32_t patrolRecorvery;           /* patrol recovery; the key keeps this spelling */
+    int32_t miniFocusDistance;
+    int32_t ptzLimits;
+    int32_t topAndBottomLimit;
+    int32_t initialPosition;
+    int32_t privacyMask;
+    int32_t scheduledTask;
+    int32_t tiltScan;
+    int32_t panoramaScan;
+    int32_t configClear;
+    int32_t clearInitialPosition;
+    int32_t rs485;
+    int32_t status;
+    int32_t heater;
+    int32_t lpr;
+    int32_t confidenceLevel;
+    int32_t dayNightDetection;
+    int32_t speedDetection;
+    int32_t regionFeatures;
+    int32_t audio;
+    int32_t smartIrMode;
+    int32_t smartIrModeAuto;
+    int32_t smartIrModeViewLevel;
+    int32_t smartIrModeMiddleLevel;
+    int32_t smartIrModeWhiteLevel;
+    int32_t localDisplayVideo;
+    int32_t smokedDomecover;
+    int32_t keepAspectRatio;
+    int32_t zoomLimit;
+    int32_t lensDistortCorrect;
+    int32_t digitalImageStabilisation;
+    int32_t focusMode;
+    int32_t lensType;
+    int32_t reduceVideoStuttering;
+    int32_t dayNightSliderRange_1_10;
+    int32_t dayNightSliderRange_1_100;
+    int32_t dayNightSliderDefult_20_60;
+    int32_t imageMask;
+    int32_t audioEvent;
+    int32_t alarmInputEvent;           /* never reported: "alarmInputEvent" carries alarmOutputEvent */
+    int32_t alarmOutputEvent;
+    int32_t vca;
+    int32_t streamPreset;
+} camera_all_capability_record;
+
+/* The model flags; "vcaType" only when vcaSupport is non-zero, "lprVersion"
+   only when lprSupport is non-zero, "faceSupport" before "iotSupport". */
+MW_API int32_t get_camera_model_general_json(const camera_model_general_record *in, char *dst,
+                                             int32_t dstSize);
+/* One root key "preset_<id>" per used slot, in slot order, its value
+   "leadingNumber:firstCoordinate:secondCoordinate:name" (the coordinates with
+   six decimals) cut at 127 characters. Two slots with one id give two keys of
+   that name. A name is read no further than its 68 bytes. */
+MW_API int32_t get_camera_fish_presets_json(const camera_fish_presets_record *in, char *dst, int32_t dstSize);
+/* {"fisheyeViewField"} */
+MW_API int32_t get_camera_fish_view_field_json(const camera_fish_view_field_record *in, char *dst,
+                                               int32_t dstSize);
+/* The keys of the group named by `group`; {} for any other code. */
+MW_API int32_t get_camera_all_capability_json(const camera_all_capability_record *in, char *dst,
+                                              int32_t dstSize);
+
+/* ---- end model flags, capability groups, fisheye presets ---- */
+
 /* ===== end camera image ===== */
 
 /* ===== video ===== */

@@ -238,19 +238,6 @@ TEST(CameraSetting, TaskListsReadTheirOwnSchedules)
     EXPECT_STREQ(doc["dnScheduleTaskday"]->valuestring, "dn0;dn7;");
 }
 
-TEST(CameraSetting, AFullDayKeepsEveryCutSlot)
-{
-    auto r = blank_setting();
-    for (int s = 0; s < 10; ++s)
-        snprintf(r->blcWdrHlcTaskday[1][s], 256, "%c%s", '0' + s, std::string(254, 'x').c_str());
-    std::string expected;
-    for (int s = 0; s < 10; ++s)
-        expected += std::string(1, static_cast<char>('0' + s)) + std::string(30, 'x');
-    test::Json doc(test::rendered([&](char *d, int32_t n) { return get_camera_setting_json(r.get(), d, n); }));
-    EXPECT_EQ(std::string(test::member(test::element(doc["blcWdrHlcTaskdayList"], 1), "taskday")->valuestring),
-              expected);
-}
-
 camera_day_night_profile profile(uint8_t first)
 {
     camera_day_night_profile p{};

@@ -395,6 +395,99 @@ MW_API int32_t get_storage_record_settings_json(const storage_record_settings_re
 
 /* ===== traffic and parking ===== */
 
+/* One detection region of the parking pages: a quadrilateral given by its
+   four corners (pointX[j], pointY[j], j = 0 to 3, in image coordinates) and
+   a name. The region's document holds the corners as two polygon texts,
+   "polygonX" and "polygonY": each value followed by a colon, the last one
+   included ("10:20:30:40:"), cut at 63 characters. */
+typedef struct parking_region_entry {
+    int32_t reserved[4];         /* kept for the detector; not in the documents */
+    int32_t pointX[4];
+    int32_t pointY[4];
+    char name[100];
+} parking_region_entry;
+
+/* The weekly schedule handed beside a detection record: one text per day,
+   index 0 to 6. */
+typedef struct week_schedule_block {
+    char schedule[7][256];
+} week_schedule_block;
+
+/* Licence-plate parking detection: four regions, then how results are
+   posted. `afterTime` and `period` are in seconds; results go to the TCP port
+   or the HTTP address as `postType` says; the HTTP password is written to
+   the document as stored. */
+typedef struct lpr_parking_detection_record {
+    uint8_t enable;
+    parking_region_entry regions[4];
+    uint8_t pullEnable;
+    uint8_t pullAgain;
+    int32_t afterTime;
+    uint8_t periodicEnable;
+    int32_t period;
+    uint8_t attachSnap;
+    uint8_t postType;
+    int32_t tcpPort;
+    char httpUrl[1024];
+    char httpUser[94];
+    char httpPwd[64];
+    uint8_t saveSnap;
+} lpr_parking_detection_record;
+
+/* Parking-violation detection: a vehicle that stays longer than
+   `residenceTime` seconds in one of the two regions raises the alarm;
+   `permitVehicle` is the vehicle kind allowed to stay. */
+typedef struct parking_violation_record {
+    uint8_t enable;
+    int32_t residenceTime;
+    int32_t permitVehicle;
+    parking_region_entry regions[2];
+} parking_violation_record;
+
+/* The parking group's general settings. The area list travels beside the
+   record as its own text. The unread members are ours to lay out: a leading
+   word and a byte before `areaType`, kept for the recognition engine and not
+   in the document. */
+typedef struct parking_general_record {
+    int32_t reserved0;           /* not in the document */
+    uint8_t countryRegion;       /* key "country/region" */
+    uint8_t nightModeEnable;
+    uint8_t nightModeLevel;
+    uint8_t reserved1;           /* not in the document */
+    uint8_t areaType;
+} parking_general_record;
+
+/* Automatic export of the parking results: on `weekday` at hour:min:sec,
+   by `method`, over the span `timeRange`. */
+typedef struct auto_export_record {
+    uint8_t reserved;            /* not in the document */
+    uint8_t enable;
+    int32_t method;
+    int32_t weekday;
+    int32_t hour;
+    int32_t min;
+    int32_t sec;
+    int32_t timeRange;
+} auto_export_record;
+
+/* "enable", "detectionInfoList" (four regions, "regionIndex" 0 to 3),
+   "scheduleList" (the seven days of `schedule`), then the posting settings.
+   Neither `in` nor `schedule` is tested for NULL. */
+MW_API int32_t ware_get_lpr_parking_detection_json(const lpr_parking_detection_record *in,
+                                                   const week_schedule_block *schedule, char *dst,
+                                                   int32_t dstSize);
+/* "areaType", "country/region", "areaList" (the `areaList` text as it stands,
+   which must not be NULL), "nightModeEnable", "nightModeLevel". */
+MW_API int32_t ware_get_parking_general_json(const parking_general_record *in, const char *areaList, char *dst,
+                                             int32_t dstSize);
+/* "enable", "permitVehicle", "residenceTime" (the reverse of the record's
+   order), "detectionInfoList" (two regions, 0 and 1) and "scheduleList".
+   Neither `in` nor `schedule` is tested for NULL. */
+MW_API int32_t ware_get_parking_violation_json(const parking_violation_record *in,
+                                               const week_schedule_block *schedule, char *dst, int32_t dstSize);
+/* "enable", "weekday", "hour", "min", "sec", "timeRange", then "method" last. */
+MW_API int32_t ware_get_auto_export_json(const auto_export_record *in, char *dst, int32_t dstSize);
+
 /* ===== end traffic and parking ===== */
 
 /* ===== ptz ===== */

@@ -488,6 +488,146 @@ MW_API int32_t ware_get_parking_violation_json(const parking_violation_record *i
 /* "enable", "weekday", "hour", "min", "sec", "timeRange", then "method" last. */
 MW_API int32_t ware_get_auto_export_json(const auto_export_record *in, char *dst, int32_t dstSize);
 
+/* Vehicle counting on a traffic camera: the on-screen counter table (its
+   left and top position), the automatic reset of the counts (day type and
+   time of day), and how counts are posted: the camera's own port and up to
+   three HTTP targets held as parallel arrays indexed by target (0 to 2).
+   Passwords are written to the document as stored. */
+typedef struct vehicle_count_setting_record {
+    uint8_t enable;
+    uint8_t showInformation;     /* draw the counter table on the video */
+    uint8_t infoTableLeft;
+    uint8_t infoTableTop;
+    uint32_t countType;
+    int32_t autoReset;
+    uint8_t resetDayType;
+    uint8_t resetHour;
+    uint8_t resetMin;
+    uint8_t resetSec;
+    uint8_t enablePost;
+    uint32_t postMode;
+    uint32_t interval;           /* posting interval */
+    uint8_t attachSnapshot;
+    uint8_t postType;
+    uint8_t timeHour;
+    uint8_t timeMin;
+    uint8_t timeSec;
+    int32_t cameraPort;
+    uint8_t httpEnable[3];
+    char httpUrl[3][1024];
+    char httpUser[3][94];
+    char httpPassword[3][64];
+} vehicle_count_setting_record;
+
+/* A line drawn across the lanes: its two end points in image coordinates. */
+typedef struct trigger_line {
+    uint8_t enable;
+    float startX;
+    float startY;
+    float endX;
+    float endY;
+} trigger_line;
+
+/* One speed rule of a detection region: the vehicle type it applies to and
+   its lower and upper thresholds, each with its own switch. */
+typedef struct speed_rule_entry {
+    uint8_t minSpeedEnable;
+    uint8_t maxSpeedEnable;
+    int32_t minSpeedThr;
+    int32_t maxSpeedThr;
+    int32_t vehicleType;
+} speed_rule_entry;
+
+/* Violation management: lane directions (lanes 0 to 3), stop and trigger
+   lines, red-light running, wrong-way driving, signal docking, the speed
+   rules of the four detection regions (three rules each) and what is
+   captured. The signal inputs name the input that carries each lane's red or
+   yellow light; -1 means no input is assigned. `reverseTriggerCondition`
+   holds one condition per lane. The members between it and
+   `speedMonitoringEnable` are ours to lay out: four words kept for the
+   detector, not in the document. */
+typedef struct violation_management_record {
+    int32_t laneDirection[4];
+    trigger_line stopLine;
+    trigger_line straightTriggerLine;
+    trigger_line leftTurnTriggerLine;
+    trigger_line rightTurnTriggerLine;
+    uint8_t noPlatesEnable;      /* report vehicles without a readable plate */
+    uint8_t redLightRunningEnable;
+    uint8_t dockingMode;
+    int8_t straightLaneRedLightInputNum;
+    int8_t straightLaneYellowLightInputNum;
+    int8_t leftTurnLaneRedLightInputNum;
+    int8_t leftTurnLaneYellowLightInputNum;
+    int8_t rightTurnLaneRedLightInputNum;
+    int8_t rightTurnLaneYellowLightInputNum;
+    int32_t delayOnRedLight;
+    int32_t redLightTriggerCondition;
+    int32_t flaseStartEnable;    /* false-start detection; the key keeps this spelling */
+    uint8_t crossLineEnable;
+    int32_t crossLineTriggerCondition;
+    uint8_t reverseDrivingEnable;
+    int32_t reverseTriggerCondition[4];
+    int32_t reserved[4];         /* not in the document */
+    uint8_t speedMonitoringEnable;
+    speed_rule_entry speedRules[4][3]; /* [region 0..3][rule 0..2] */
+    uint8_t violationCapture;
+    uint8_t plateCapture;
+    uint8_t targetCapture;
+} violation_management_record;
+
+/* The detection polygons handed beside the violation-management record.
+   The leading members are ours to lay out: four words kept for the detector,
+   not in the document. */
+typedef struct violation_polygon_record {
+    int32_t reserved[4];         /* not in the document */
+    parking_region_entry normalPolygons[4];
+} violation_polygon_record;
+
+/* One rectangle of a traffic light in the image. */
+typedef struct traffic_light_rect {
+    float left;
+    float top;
+    float right;
+    float bottom;
+} traffic_light_rect;
+
+/* A group of traffic lights: the lanes it controls (signed bytes, written
+   as stored) and three light areas, each with its colour code and rectangle.
+   The document numbers the areas from 1. */
+typedef struct traffic_light_group {
+    uint8_t id;
+    int8_t straightLane;
+    int8_t leftTurnLane;
+    int8_t rightTurnLane;
+    uint32_t color[3];
+    traffic_light_rect area[3];
+} traffic_light_group;
+
+typedef struct traffic_light_area_record {
+    traffic_light_group groups[2];
+} traffic_light_area_record;
+
+/* The counting settings, then the first HTTP target's texts again on the
+   root ("httpUrl", "userName", "password", enabled or not), "httpList" (three
+   targets, "index" 0 to 2) and "scheduleList" (the seven days of
+   `schedule`, which is not tested for NULL). */
+MW_API int32_t ware_get_vehicle_count_setting_json(const vehicle_count_setting_record *in,
+                                                   const week_schedule_block *schedule, char *dst,
+                                                   int32_t dstSize);
+/* The violation-management document. Line ends are floats widened to double
+   (0.1f prints as 0.10000000149011612). "normalPolygonList" is read from
+   `polygons` ("polygonIndex" 0 to 3), which is not tested for NULL.
+   "speedMonitoringListNew" holds "region1" to "region4", each with "index"
+   counted from 0 (so one less than its key's number) and three rules. */
+MW_API int32_t ware_get_violation_management_json(const violation_management_record *in,
+                                                  const violation_polygon_record *polygons, char *dst,
+                                                  int32_t dstSize);
+/* "trafficLightAreaList": the two groups, each with "areaList" of three
+   areas numbered 1 to 3. */
+MW_API int32_t ware_get_traffic_light_area_json(const traffic_light_area_record *in, char *dst,
+                                                int32_t dstSize);
+
 /* ===== end traffic and parking ===== */
 
 /* ===== ptz ===== */

@@ -185,6 +185,67 @@ traffic_light_area_record sample_traffic_lights()
     return r;
 }
 
+// Plate results pushed to the car park's barrier server and to the city's
+// broker; the third HTTP target is unused.
+lpr_post_record sample_lpr_post()
+{
+    lpr_post_record r{};
+    r.httpEnable = 1;
+    r.postEvents = 1;
+    r.tcpEnable = 1;
+    r.tcpPort = 7200;
+    r.tcpEventMask = 0x7u;
+    http_post_target &barrier = r.httpTargets[0];
+    put(barrier.user, "barrier");
+    put(barrier.password, "Gate#North7");
+    put(barrier.url, "http://192.168.1.30:8080/anpr/result");
+    barrier.method = 1;
+    barrier.enable = 1;
+    barrier.snapshotType = 2;
+    barrier.eventMask = 0x1fu;
+    http_post_target &office = r.httpTargets[1];
+    put(office.user, "parking-ops");
+    put(office.password, "0ps-2026");
+    put(office.url, "https://ops.example.net/api/plates?site=north");
+    office.method = 1;
+    office.enable = 1;
+    office.snapshotType = 0;
+    office.eventMask = 0x3u;
+    r.httpTargets[2].method = 1;
+    r.mqttEnable = 1;
+    put(r.mqttTopic, "city/parking/north-gate/plates");
+    r.mqttPort = 1883;
+    put(r.mqttHost, "mqtt.example.net");
+    put(r.mqttUser, "cam-north-gate");
+    put(r.mqttPassword, "mq!2026n");
+    r.mqttEventMask = 0xffffffffu;
+    post_options &o = r.postOptions;
+    o.eventType = 1;
+    o.deviceInfo = 1;
+    o.time = 1;
+    o.detectionRegion = 1;
+    o.plate = 1;
+    o.country = 1;
+    o.plateType = 1;
+    o.plateColor = 1;
+    o.vehicleType = 1;
+    o.vehicleColor = 1;
+    o.brand = 0;
+    o.direction = 1;
+    o.eventData = 0;
+    o.plateCoordinate = 1;
+    o.vehicleCoordinate = 0;
+    o.plateImage = 1;
+    o.vehicleImage = 0;
+    o.fullImage = 1;
+    o.violationImage = 0;
+    o.gps = 0;
+    r.templateMode = 1;
+    r.automaticRetransmission = 1;
+    r.metadataEnable = 1;
+    return r;
+}
+
 const CatalogEntry entries[] = {
     {"ware_get_lpr_parking_detection_json", "licence-plate parking detection: bays, schedule and result posting",
      [](char *dst, int32_t n) {
@@ -241,6 +302,23 @@ const CatalogEntry entries[] = {
      [](char *dst, int32_t n) {
          static const traffic_light_area_record r = sample_traffic_lights();
          return ware_get_traffic_light_area_json(&r, dst, n);
+     }},
+    {"ware_get_lpr_post_json", "where licence-plate results are posted and what they carry",
+     [](char *dst, int32_t n) {
+         static const lpr_post_record r = sample_lpr_post();
+         return ware_get_lpr_post_json(&r, dst, n);
+     }},
+    {"ware_get_lpr_post_template_json", "a stored message template for posted plate results",
+     [](char *dst, int32_t n) {
+         static const lpr_post_template_record r = [] {
+             lpr_post_template_record t{};
+             t.mode = 1;
+             t.eventType = 24;
+             put(t.data, "{\"plate\":\"${plate}\",\"time\":\"${time}\",\"lane\":\"${detectionRegion}\","
+                         "\"list\":\"black\",\"device\":\"${deviceName}\"}");
+             return t;
+         }();
+         return ware_get_lpr_post_template_json(&r, dst, n);
      }},
 };
 

@@ -628,6 +628,85 @@ MW_API int32_t ware_get_violation_management_json(const violation_management_rec
 MW_API int32_t ware_get_traffic_light_area_json(const traffic_light_area_record *in, char *dst,
                                                 int32_t dstSize);
 
+/* One HTTP receiver of licence-plate results. `eventMask` has one bit per
+   event type posted to it; the password is written to the document as
+   stored. */
+typedef struct http_post_target {
+    char user[128];
+    char password[64];
+    char url[2560];
+    uint32_t method;
+    uint8_t enable;
+    uint8_t snapshotType;
+    uint32_t eventMask;
+} http_post_target;
+
+/* Which items a posted result carries: 1 = include. The document lists "gps"
+   before the four image switches, though it is stored last. */
+typedef struct post_options {
+    uint8_t eventType;
+    uint8_t deviceInfo;
+    uint8_t time;
+    uint8_t detectionRegion;
+    uint8_t plate;
+    uint8_t country;
+    uint8_t plateType;
+    uint8_t plateColor;
+    uint8_t vehicleType;
+    uint8_t vehicleColor;
+    uint8_t brand;
+    uint8_t direction;
+    uint8_t eventData;
+    uint8_t plateCoordinate;
+    uint8_t vehicleCoordinate;
+    uint8_t plateImage;
+    uint8_t vehicleImage;
+    uint8_t fullImage;
+    uint8_t violationImage;
+    uint8_t gps;
+} post_options;
+
+/* Where licence-plate results are pushed: three HTTP targets, a TCP
+   listener and an MQTT broker, each with its event mask (one bit per event
+   type), the items a result carries and the template mode. Passwords are
+   written to the document as stored. */
+typedef struct lpr_post_record {
+    int32_t httpEnable;
+    int32_t reserved0;           /* not in the document */
+    int32_t postEvents;
+    uint8_t tcpEnable;
+    int32_t tcpPort;
+    uint32_t tcpEventMask;
+    http_post_target httpTargets[3];
+    uint8_t mqttEnable;
+    char mqttTopic[256];
+    int32_t mqttPort;
+    char mqttHost[256];
+    char mqttUser[64];
+    char mqttPassword[64];
+    uint32_t mqttEventMask;
+    uint8_t reserved1;           /* not in the document */
+    post_options postOptions;
+    uint32_t templateMode;
+    uint8_t automaticRetransmission; /* resend results the receiver did not take */
+    int32_t metadataEnable;
+} lpr_post_record;
+
+/* One stored message template for posted results. The template text's
+   width is ours to choose: 4096 bytes, read up to its NUL. */
+typedef struct lpr_post_template_record {
+    uint8_t mode;
+    int32_t eventType;
+    char data[4096];
+} lpr_post_template_record;
+
+/* "postEvents", "automaticRetransmission", then the nested "http" (with
+   "httpList": always three targets, "index" 0 to 2, enabled or not), "tcp",
+   "MQTT" and "postOptions" objects, "templateMode" and "more". */
+MW_API int32_t ware_get_lpr_post_json(const lpr_post_record *in, char *dst, int32_t dstSize);
+/* "mode", "eventType", "data". */
+MW_API int32_t ware_get_lpr_post_template_json(const lpr_post_template_record *in, char *dst, int32_t dstSize);
+
 /* ===== end traffic and parking ===== */
 
 /* ===== ptz ===== */

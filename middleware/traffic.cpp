@@ -265,3 +265,79 @@ int32_t ware_get_traffic_light_area_json(const traffic_light_area_record *in, ch
         }
     });
 }
+
+/* ---- licence-plate result posting ---- */
+
+int32_t ware_get_lpr_post_json(const lpr_post_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "postEvents", in->postEvents);
+        add(root, "automaticRetransmission", in->automaticRetransmission);
+
+        cJSON *http = mw::object(root, "http");
+        add(http, "enable", in->httpEnable);
+        cJSON *targets = mw::array(http, "httpList");
+        for (int32_t k = 0; k < 3; ++k) { // all three, enabled or not
+            const http_post_target &target = in->httpTargets[k];
+            cJSON *item = mw::append_object(targets);
+            add(item, "index", k);
+            add(item, "enable", target.enable);
+            add(item, "url", target.url);
+            add(item, "user", target.user);
+            add(item, "password", target.password);
+            add(item, "method", target.method);
+            add(item, "snapshotType", target.snapshotType);
+            add(item, "eventMask", target.eventMask);
+        }
+
+        cJSON *tcp = mw::object(root, "tcp");
+        add(tcp, "enable", in->tcpEnable);
+        add(tcp, "port", in->tcpPort);
+        add(tcp, "eventMask", in->tcpEventMask);
+
+        cJSON *mqtt = mw::object(root, "MQTT");
+        add(mqtt, "enable", in->mqttEnable);
+        add(mqtt, "topic", in->mqttTopic);
+        add(mqtt, "port", in->mqttPort);
+        add(mqtt, "host", in->mqttHost);
+        add(mqtt, "user", in->mqttUser);
+        add(mqtt, "password", in->mqttPassword);
+        add(mqtt, "eventMask", in->mqttEventMask);
+
+        const post_options &options = in->postOptions;
+        cJSON *items = mw::object(root, "postOptions");
+        add(items, "eventType", options.eventType);
+        add(items, "deviceInfo", options.deviceInfo);
+        add(items, "time", options.time);
+        add(items, "detectionRegion", options.detectionRegion);
+        add(items, "plate", options.plate);
+        add(items, "country", options.country);
+        add(items, "plateType", options.plateType);
+        add(items, "plateColor", options.plateColor);
+        add(items, "vehicleType", options.vehicleType);
+        add(items, "vehicleColor", options.vehicleColor);
+        add(items, "brand", options.brand);
+        add(items, "direction", options.direction);
+        add(items, "eventData", options.eventData);
+        add(items, "plateCoordinate", options.plateCoordinate);
+        add(items, "vehicleCoordinate", options.vehicleCoordinate);
+        add(items, "gps", options.gps); // before the images, though stored after them
+        add(items, "plateImage", options.plateImage);
+        add(items, "vehicleImage", options.vehicleImage);
+        add(items, "fullImage", options.fullImage);
+        add(items, "violationImage", options.violationImage);
+
+        add(root, "templateMode", in->templateMode);
+        cJSON *more = mw::object(root, "more");
+        add(more, "metadataEnable", in->metadataEnable);
+    });
+}
+
+int32_t ware_get_lpr_post_template_json(const lpr_post_template_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "mode", in->mode);
+        add(root, "eventType", in->eventType);
+        add(root, "data", in->data);
+    });
+}

@@ -322,7 +322,7 @@ MW_API int32_t get_system_online_heart_json(const system_online_heart_record *in
 /* ===== audio and storage ===== */
 
 /* The audio page: input and output settings of the camera's audio channel.
-   Codec, source, mode and rates are the page's option codes. */
+   Codec, source and mode are the page's option codes. */
 typedef struct audio_info_record {
     int32_t reserved0;           /* not in the document */
     int32_t enable;
@@ -397,7 +397,7 @@ MW_API int32_t get_storage_record_settings_json(const storage_record_settings_re
 
 /* One detection region of the parking pages: a quadrilateral given by its
    four corners (pointX[j], pointY[j], j = 0 to 3, in image coordinates) and
-   a name. The region's document holds the corners as two polygon texts,
+   a name. The four leading words are kept for the detector (our layout). The region's document holds the corners as two polygon texts,
    "polygonX" and "polygonY": each value followed by a colon, the last one
    included ("10:20:30:40:"), cut at 63 characters. */
 typedef struct parking_region_entry {
@@ -414,9 +414,9 @@ typedef struct week_schedule_block {
 } week_schedule_block;
 
 /* Licence-plate parking detection: four regions, then how results are
-   posted. `afterTime` and `period` are in seconds; results go to the TCP port
-   or the HTTP address as `postType` says; the HTTP password is written to
-   the document as stored. */
+   posted: again after `afterTime`, every `period` when periodic, to the TCP
+   port or the HTTP address as `postType` says. The HTTP password is written
+   to the document as stored. */
 typedef struct lpr_parking_detection_record {
     uint8_t enable;
     parking_region_entry regions[4];
@@ -435,8 +435,8 @@ typedef struct lpr_parking_detection_record {
 } lpr_parking_detection_record;
 
 /* Parking-violation detection: a vehicle that stays longer than
-   `residenceTime` seconds in one of the two regions raises the alarm;
-   `permitVehicle` is the vehicle kind allowed to stay. */
+   `residenceTime` in one of the two regions raises the alarm;
+   `permitVehicle` selects the vehicles allowed to stay. */
 typedef struct parking_violation_record {
     uint8_t enable;
     int32_t residenceTime;

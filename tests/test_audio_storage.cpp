@@ -78,16 +78,6 @@ TEST(AudioFile, UsedSlotsKeepTheirNumbers)
     }
 }
 
-TEST(AudioFile, LongestNameIsWrittenWhole)
-{
-    audio_file_record r{};
-    const std::string name(127, 'a');
-    put(r.audioFileName[2], name.c_str());
-    test::Json doc(test::rendered([&](char *d, int32_t n) { return get_audio_file_json(&r, d, n); }));
-    ASSERT_TRUE(cJSON_IsString(doc["audioFileName_2"]));
-    EXPECT_EQ(std::string(doc["audioFileName_2"]->valuestring), name);
-}
-
 TEST(StorageSettings, SdCardMembersThenFiveNasObjects)
 {
     storage_settings_record r{};

@@ -109,23 +109,4 @@ TEST(FisheyeGeneral, StreamsKeyByKeyWithGapsAndOneBasedRates)
     test::expect_members(doc["1PMode"], {A("streamList")});
 }
 
-TEST(FisheyeGeneral, ProfileLetters)
-{
-    struct Case {
-        char letter;
-        double number;
-    };
-    const Case cases[] = {{'B', 0}, {'M', 1}, {'H', 2}, {'m', 2}, {'\0', 2}};
-    for (const Case &c : cases) {
-        fisheye_stream_entry s = stream(0, 0, c.letter);
-        video_fisheye_video_general_record r{};
-        r.mode2P.streams[0] = &s;
-        test::Json doc(test::rendered([&](char *d, int32_t n) { return get_video_fisheye_video_general_json(&r, d, n); }));
-        const cJSON *item = test::element(test::member(doc["2PMode"], "streamList"), 0);
-        const cJSON *profile = test::member(item, "profile");
-        ASSERT_NE(profile, nullptr) << "letter " << c.letter;
-        EXPECT_EQ(profile->valuedouble, c.number) << "letter " << static_cast<int>(c.letter);
-    }
-}
-
 } // namespace

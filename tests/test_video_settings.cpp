@@ -61,15 +61,6 @@ TEST(VideoSmallPages, KeysInOrderWithTheirNumberRules)
     test::expect_members(c.root(), {N("viewField", 360), N("correctModel", 2)});
 }
 
-TEST(VideoTsMulticast, AnAddressFillingItsFieldIsCutThere)
-{
-    video_ts_multicast_record mc{};
-    memset(mc.addr, 'a', sizeof mc.addr); // no terminator inside the field
-    mc.port = 1;
-    test::Json doc(test::rendered([&](char *d, int32_t n) { return get_video_ts_multicast_json(&mc, d, n); }));
-    test::expect_members(doc.root(), {N("enable", 0), S("addr", std::string(35, 'a')), N("port", 1)});
-}
-
 // The playback page and the file-name page with names in the given slots.
 struct Playback {
     playvideo_config_record config{};

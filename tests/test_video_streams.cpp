@@ -195,24 +195,24 @@ TEST(VideoFramerate, ValidStreamsWithTheirCodecGroups)
     EXPECT_EQ(test::keys(doc["fourthStream"]), (std::vector<std::string>{"H264", "H265"}));
 }
 
-TEST(VideoFramerate, NoStreamLeavesOnlyTheCount)
+TEST(VideoFramerate, CountReachesTheFifthStreamAtMost)
 {
-    video_framerate_record r{};
-    for (int i = 0; i < 6; ++i)
-        r.streamValid[i] = 1;
-    test::Json doc(test::rendered([&](char *d, int32_t n) { return get_video_framerate_json(&r, d, n); }));
-    test::expect_members(doc.root(), {N("streamCount", 0)});
-}
-
-TEST(VideoFramerate, TheFifthStreamIsTheLastNamed)
-{
-    video_framerate_record r{};
-    r.streamCount = 5;
-    for (int i = 0; i < 6; ++i)
-        r.streamValid[i] = 1;
-    test::Json doc(test::rendered([&](char *d, int32_t n) { return get_video_framerate_json(&r, d, n); }));
-    EXPECT_EQ(test::keys(doc.root()), (std::vector<std::string>{"streamCount", "mainStream", "subStream",
-                                                                 "thirdStream", "fourthStream", "fifthStream"}));
+    struct Case {
+        int32_t count;
+        size_t streams;
+    };
+    const Case cases[] = {{0, 0}, {-1, 0}, {2, 2}, {5, 5}};
+    for (const Case &c : cases) {
+        video_framerate_record r{};
+        r.streamCount = c.count;
+        for (int i = 0; i < 6; ++i)
+            r.streamValid[i] = 1;
+        test::Json doc(test::rendered([&](char *d, int32_t n) { return get_video_framerate_json(&r, d, n); }));
+        std::vector<std::string> want = {"streamCount"};
+        want.insert(want.end(), kNames, kNames + c.streams);
+        EXPECT_EQ(test::keys(doc.root()), want) << "streamCount " << c.count;
+        EXPECT_EQ(cJSON_GetNumberValue(doc["streamCount"]), c.count);
+    }
 }
 
 std::vector<double> numbers(const cJSON *array)

@@ -409,7 +409,7 @@ typedef struct video_framerate_record {
     int32_t streamValid[6];            /* 0: the stream is left out of the document */
     int32_t mjpegSupport[6];           /* non-zero: the stream offers MJPEG too */
     int32_t reserved[6];               /* encoder bookkeeping, not in the document (width ours) */
-    video_framerate_stream_entry streams[6];
+    video_framerate_stream_entry streams[6]; /* six, like the other per-stream arrays; five are read */
 } video_framerate_record;
 
 /* The bit rates each of the first five streams offers, in kbit/s. */
@@ -577,7 +577,8 @@ MW_API int32_t get_playvideo_config_json(const playvideo_config_record *in, char
 MW_API int32_t get_playvideo_filename_json(const playvideo_filename_record *in, char *dst,
                                            int32_t dstSize);
 /* The fan mode from the settings, the temperature as text with two decimals
-   and the fan state from the measured state. */
+   ("23.50", no unit) and the fan state from the measured state. Neither
+   record is tested for NULL; a refused buffer returns before either is read. */
 MW_API int32_t get_dehumidifying_info_json(const dehumidifying_info_record *info,
                                            const dehumidifying_status_record *status, char *dst,
                                            int32_t dstSize);

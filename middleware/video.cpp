@@ -5,7 +5,6 @@
  */
 #include "streams.h"
 
-#include <cstring>
 
 using mw::add;
 

@@ -1,0 +1,28 @@
+/*
+ * streams.h - what the video pages and the video capability page share: the
+ * stream names and the compact bit-rate list.
+ */
+#ifndef MIDDLEWARE_STREAMS_H
+#define MIDDLEWARE_STREAMS_H
+
+#include "internal.h"
+
+namespace mw {
+
+/* The streams by index. The frame-rate and bit-rate pages use the first five
+   names only. */
+constexpr int32_t kStreamNameCount = 6;
+constexpr const char *kStreamNames[kStreamNameCount] = {
+    "mainStream", "subStream", "thirdStream", "fourthStream", "fifthStream", "sixthStream",
+};
+
+/* Stream loops run while i < a stored count, and never past the names. */
+inline int32_t bounded_count(int32_t count, int32_t limit) { return count < limit ? count : limit; }
+
+/* `key`: a number array of the non-zero values among slots[0..count-1], in
+   slot order (0 marks an empty slot); [] when every slot is empty. */
+void add_nonzero_int_array(cJSON *parent, const char *key, const int32_t *slots, int32_t count);
+
+} // namespace mw
+
+#endif /* MIDDLEWARE_STREAMS_H */

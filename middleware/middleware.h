@@ -317,6 +317,161 @@ MW_API int32_t get_system_online_heart_json(const system_online_heart_record *in
 
 /* ===== network ===== */
 
+/* ---- network services ---- */
+
+/* TCP/IP: the IPv4 address (or DHCP), the IPv6 settings, DNS and MTU. */
+typedef struct network_tcp_record {
+    char ipv4Ipaddress[32];
+    char ipv4netmask[32];              /* dotted text, e.g. 255.255.255.0 */
+    char ipv4gateway[32];
+    int32_t ipv4DhcpEnable;
+    char dns0[64];
+    int32_t ipv6Mode;
+    char ipv6Ipaddress[64];
+    int32_t ipv6netmask;               /* IPv6 prefix length (e.g. 64): a number, not a mask text */
+    char ipv6gateway[64];
+    int32_t mtuByte;                   /* MTU in bytes */
+} network_tcp_record;
+
+/* HTTP and HTTPS ports and switches, and the installed HTTPS certificate:
+   its validity dates and subject parts (country, state `ST`, organisation `O`,
+   common name `CN`). `certResult` and `certUpdateFlag` are the state of the
+   last certificate request and installation. Width chosen for CN: 64. */
+typedef struct network_http_record {
+    int32_t httpPort;
+    int32_t httpEnable;
+    int32_t httpsEnable;
+    int32_t httpsPort;
+    char certDate[256];
+    char certSubject[256];
+    int32_t certResult;
+    char requestSubject[256];          /* subject of a pending certificate request */
+    int32_t certUpdateFlag;
+    char ipv4Ipaddress[32];
+    char ipv6Ipaddress[32];
+    char notBefore[64];
+    char notAfter[64];
+    char country[64];
+    char ST[64];
+    char O[64];
+    char CN[64];
+} network_http_record;
+
+/* UPnP port mapping: for HTTP, HTTPS, RTSP and playback, the external port
+   announced to the router, the camera's internal port and the mapping's
+   state as the router reported it. */
+typedef struct network_upnp_record {
+    int32_t scanUpnpEnable;
+    int32_t upnpEnable;
+    char upnpName[256];                /* friendly name announced on the network */
+    int32_t upnpType;                  /* mapping mode: automatic or manual */
+    int32_t upnpHttpPort;              /* external ports */
+    int32_t upnpHttpsPort;
+    int32_t upnpRtspPort;
+    int32_t upnpPlayBackPort;
+    int32_t upnpHttpInterPort;         /* internal ports */
+    int32_t upnpHttpsInterPort;
+    int32_t upnpRtspInterPort;
+    int32_t upnpPlaybackInterPort;
+    int32_t upnpHttpStatus;            /* mapping states */
+    int32_t upnpHttpsStatus;
+    int32_t upnpRtspStatus;
+    int32_t upnpPlaybackStatus;
+} network_upnp_record;
+
+/* 802.1Q VLAN tagging and the address the camera uses inside the VLAN.
+   Width chosen for vlanGateway: 32, as the other two addresses. */
+typedef struct network_vlan_record {
+    int32_t vlanEnable;
+    int32_t vlanId;                    /* VLAN tag, 1..4094 */
+    char vlanIp[32];
+    char vlanNetmask[32];
+    char vlanGateway[32];
+} network_vlan_record;
+
+/* PPPoE dial-up: the account name and the address the link obtained. The
+   password is kept elsewhere and never written out. */
+typedef struct network_pppoe_record {
+    int32_t pppoeEnable;
+    char pppoeUsername[128];
+    char pppoeIp[64];
+    int32_t pppoeReload;               /* 1 asks for a redial */
+} network_pppoe_record;
+
+/* RTSP ports and multicast: the group address, one multicast port per
+   stream (main stream first), QoS DSCP mark and RTP packet size. */
+typedef struct network_rtsp_record {
+    char multicastGroupAddress[64];
+    int32_t multicastPort[4];          /* keys multicastPort_0 .. multicastPort_3 */
+    int32_t rtspPort;
+    int32_t rtspPlaybackPort;
+    int32_t qosDscp;
+    int32_t rtpPacketSize;
+} network_rtsp_record;
+
+/* SNMP: the v1/v2c communities and the v3 users for reading (rd...) and
+   writing (wr...) with their security level and algorithms. Communities and
+   passwords are the user's settings and are written out as they stand. */
+typedef struct network_snmp_record {
+    int32_t enableV1;
+    int32_t enableV2;
+    int32_t enableV3;
+    char wrCommunity[128];
+    char rdCommunity[128];
+    char rdSecurityName[128];
+    int32_t rdSecurityLevel;
+    int32_t rdAuthenticationAlgorithm;
+    char rdAuthenticationPassword[128];
+    int32_t rdPrivateKeyAlgorithm;
+    char rdPrivatePassword[128];
+    char wrSecurityName[128];
+    int32_t wrSecurityLevel;
+    int32_t wrAuthenticationAlgorithm;
+    char wrAuthenticationPassword[128];
+    int32_t wrPrivateKeyAlgorithm;
+    char wrPrivatePassword[128];
+    int32_t snmpPort;
+} network_snmp_record;
+
+/* IEEE 802.1X port authentication (EAP-MD5 only). Widths chosen: username
+   and the password no key reads, 64 bytes each. */
+typedef struct network_8021x_record {
+    uint8_t enable;
+    uint8_t reserved0;                 /* not in the document */
+    char username[64];
+    char password[64];                 /* not in the document */
+    uint8_t eapolver;                  /* EAPOL version counted from 0: 0 is version 1 */
+} network_8021x_record;
+
+/* Bonjour (mDNS) announcement and the name it announces (width chosen: 64). */
+typedef struct network_bonjour_record {
+    uint8_t enable;
+    char name[64];
+} network_bonjour_record;
+
+/* The DDNS page reads network_ddns_record, declared with the layouts shared
+   by two groups above. Its three ports are unsigned. */
+
+/* One flat object each, keys in the page's order (which is not always the
+   record's). "ipv6netmask" is a number, "ipv4netmask" a string. */
+MW_API int32_t get_network_tcp_json(const network_tcp_record *in, char *dst, int32_t dstSize);
+/* "httpEnable" comes before "httpPort". */
+MW_API int32_t get_network_http_json(const network_http_record *in, char *dst, int32_t dstSize);
+MW_API int32_t get_network_upnp_json(const network_upnp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t get_network_vlan_json(const network_vlan_record *in, char *dst, int32_t dstSize);
+/* No password is written. */
+MW_API int32_t get_network_pppoe_json(const network_pppoe_record *in, char *dst, int32_t dstSize);
+/* 13 members; "httpPort", "rtspPort", "playbackPort" unsigned; "status" comes
+   before the two oem members although it is stored last. */
+MW_API int32_t get_network_ddns_json(const network_ddns_record *in, char *dst, int32_t dstSize);
+/* Always four members multicastPort_0 .. multicastPort_3. */
+MW_API int32_t get_network_rtsp_json(const network_rtsp_record *in, char *dst, int32_t dstSize);
+/* "enableV3" is written after the two communities. */
+MW_API int32_t get_network_snmp_json(const network_snmp_record *in, char *dst, int32_t dstSize);
+/* "protocol" is always "EAP-MD5"; "eapolver" is the stored byte plus 1. */
+MW_API int32_t get_network_8021x_json(const network_8021x_record *in, char *dst, int32_t dstSize);
+MW_API int32_t get_network_bonjour_json(const network_bonjour_record *in, char *dst, int32_t dstSize);
+
 /* ===== end network ===== */
 
 /* ===== audio and storage ===== */

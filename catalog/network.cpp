@@ -110,6 +110,119 @@ network_snmp_record sample_snmp()
     return r;
 }
 
+network_platform_record sample_platform()
+{
+    network_platform_record r{};
+    r.enable = 1;
+    r.localPort = 5060;
+    put(r.serverId, "34020000002000000001");
+    put(r.serverRegion, "3402000000");
+    put(r.serverAddress, "203.0.113.10");
+    r.serverPort = 5060;
+    put(r.deviceId, "34020000001320000064");
+    put(r.password, "Reg1ster#64");
+    r.validity = 3600;
+    r.heartBeatPeriod = 60;
+    r.videoStream = 0;
+    r.registerInterval = 60;
+    r.maxTimeout = 3;
+    put(r.alarmInput, "34020000001340000001");
+    put(r.videoChannel, "34020000001310000001");
+    put(r.audioOutput, "34020000001370000001");
+    return r;
+}
+
+// Five users looking at the camera: the site administrator, two control-room
+// operators and two viewers on the gate's tablets.
+network_online_users_record sample_online_users()
+{
+    network_online_users_record r{};
+    const struct {
+        const char *name;
+        int32_t level;
+        const char *ip;
+        const char *time;
+    } users[] = {
+        {"admin", 0, "192.168.1.20", "2026-11-22 07:58:12"},
+        {"control1", 1, "192.168.1.31", "2026-11-22 06:00:03"},
+        {"control2", 1, "192.168.1.32", "2026-11-22 06:01:47"},
+        {"gate-tablet-a", 2, "192.168.1.101", "2026-11-22 07:12:30"},
+        {"gate-tablet-b", 2, "192.168.1.102", "2026-11-22 07:13:05"},
+    };
+    int32_t count = 0;
+    for (const auto &u : users) {
+        put(r.onlineUserName[count], u.name);
+        r.onlineUserLevel[count] = u.level;
+        put(r.onlineUserIp[count], u.ip);
+        put(r.onlineUserTime[count], u.time);
+        ++count;
+    }
+    r.onlineUserCount = count;
+    return r;
+}
+
+network_smtp_boot_notify_record sample_smtp_boot_notify()
+{
+    network_smtp_boot_notify_record r{};
+    r.bootNotifyEnable = 1;
+    put(r.emailTarcertAddress, "facilities@northfield-carparks.example");
+    put(r.serverUserName, "cameras@northfield-carparks.example");
+    put(r.serverFromAddress, "gate-north@northfield-carparks.example");
+    put(r.serverAddress, "smtp.northfield-carparks.example");
+    put(r.serverToAddress, "security@northfield-carparks.example");
+    r.serverPort = 465;
+    r.serverSslHigh = 0;
+    r.serverSslLow = 1;
+    return r;
+}
+
+sip_settings sample_sip()
+{
+    sip_settings s{};
+    s.enable = 1;
+    s.registerMode = 1;
+    s.sipAudioEnable = 1;
+    s.videoStream = 1;
+    s.serverPort = 5060;
+    s.reserved0 = 5062;
+    s.maxDuration = 180;
+    put(s.userId, "6401");
+    put(s.password, "Intercom64!");
+    put(s.userName, "Gate North");
+    put(s.serverAddress, "192.168.1.5");
+    s.connectionProtocol = 0;
+    return s;
+}
+
+// The gatehouse, the duty manager's mobile through the PBX trunk, and the
+// night guard; the last two slots are free.
+network_sip_alarm_phone_list_record sample_sip_alarm_phones()
+{
+    network_sip_alarm_phone_list_record r{};
+    const struct {
+        uint8_t type;
+        uint32_t port;
+        uint8_t from[2], to[2];
+        const char *number, *name;
+    } phones[] = {
+        {0, 5060, {0, 0}, {23, 59}, "6001", "Gatehouse"},
+        {1, 5060, {8, 0}, {17, 30}, "907700900123", "Duty manager"},
+        {0, 5062, {18, 0}, {6, 30}, "6010", "Night guard"},
+    };
+    for (size_t i = 0; i < sizeof phones / sizeof phones[0]; ++i) {
+        sip_alarm_phone_entry &e = r.phones[i];
+        e.phoneType = phones[i].type;
+        e.phonePort = phones[i].port;
+        e.durationStartHour = phones[i].from[0];
+        e.durationStartMinute = phones[i].from[1];
+        e.durationEndHour = phones[i].to[0];
+        e.durationEndMinute = phones[i].to[1];
+        put(e.phoneNumber, phones[i].number);
+        put(e.phoneName, phones[i].name);
+    }
+    return r;
+}
+
 const CatalogEntry entries[] = {
     {"get_network_tcp_json", "IPv4 and IPv6 addresses, DNS and MTU",
      [](char *dst, int32_t n) {
@@ -199,6 +312,83 @@ const CatalogEntry entries[] = {
              return b;
          }();
          return get_network_bonjour_json(&r, dst, n);
+     }},
+    {"get_network_platform_json", "registration with the remote video platform",
+     [](char *dst, int32_t n) {
+         static const network_platform_record r = sample_platform();
+         return get_network_platform_json(&r, dst, n);
+     }},
+    {"get_network_more_json", "ONVIF, push service and the per-module push switches",
+     [](char *dst, int32_t n) {
+         static const network_more_record r = [] {
+             network_more_record m{};
+             m.onvifEnable = 1;
+             m.pushEnable = 1;
+             m.pushType = 2;
+             put(m.modulePush[0].moduleName, "alarm");
+             m.modulePush[0].push = 1;
+             return m;
+         }();
+         return get_network_more_json(&r, dst, n);
+     }},
+    {"get_network_rtmp_json", "publishing a stream to an RTMP server",
+     [](char *dst, int32_t n) {
+         static const network_rtmp_record r = [] {
+             network_rtmp_record m{};
+             m.enable = 1;
+             m.streamType = 1;
+             put(m.server, "rtmp://live.northfield-carparks.example/gates/north-entry");
+             return m;
+         }();
+         return get_network_rtmp_json(&r, dst, n);
+     }},
+    {"get_network_anr_info_json", "peer that refills recording gaps after a network loss",
+     [](char *dst, int32_t n) {
+         static const network_anr_info_record r = [] {
+             network_anr_info_record a{};
+             put(a.anrMac, "00:1c:27:10:02:5e");
+             put(a.anrIp, "192.168.1.200");
+             a.anrStatus = 1;
+             return a;
+         }();
+         return get_network_anr_info_json(&r, dst, n);
+     }},
+    {"get_network_online_users_json", "users logged in now, with level, address and login time",
+     [](char *dst, int32_t n) {
+         static const network_online_users_record r = sample_online_users();
+         return get_network_online_users_json(&r, dst, n);
+     }},
+    {"get_network_smtp_boot_notify_json", "mail sent when the camera boots",
+     [](char *dst, int32_t n) {
+         static const network_smtp_boot_notify_record r = sample_smtp_boot_notify();
+         return get_network_smtp_boot_notify_json(&r, dst, n);
+     }},
+    {"get_network_sip_settings_json", "SIP intercom account, call settings and registration state",
+     [](char *dst, int32_t n) {
+         static const sip_settings settings = sample_sip();
+         static const network_sip_settings_record r = {&settings, 1};
+         return get_network_sip_settings_json(&r, dst, n);
+     }},
+    {"get_network_sip_alarm_phone_list_json", "phones called on an alarm, with their time windows",
+     [](char *dst, int32_t n) {
+         static const network_sip_alarm_phone_list_record r = sample_sip_alarm_phones();
+         return get_network_sip_alarm_phone_list_json(&r, dst, n);
+     }},
+    {"get_network_sip_white_list_json", "numbers allowed to call the camera",
+     [](char *dst, int32_t n) {
+         static const network_sip_white_list_record r = [] {
+             network_sip_white_list_record w{};
+             w.enable = 1;
+             w.phoneType[0] = 0;
+             put(w.phoneNumber[0], "6001");
+             w.phoneType[1] = 0;
+             put(w.phoneNumber[1], "6010");
+             // slot 2 was freed when the old gatehouse extension went
+             w.phoneType[3] = 1;
+             put(w.phoneNumber[3], "907700900123");
+             return w;
+         }();
+         return get_network_sip_white_list_json(&r, dst, n);
      }},
 };
 

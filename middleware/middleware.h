@@ -472,6 +472,165 @@ MW_API int32_t get_network_snmp_json(const network_snmp_record *in, char *dst, i
 MW_API int32_t get_network_8021x_json(const network_8021x_record *in, char *dst, int32_t dstSize);
 MW_API int32_t get_network_bonjour_json(const network_bonjour_record *in, char *dst, int32_t dstSize);
 
+/* ---- platform, push, online users, mail and SIP ---- */
+
+/* Registration with a remote video platform: the camera's local signalling
+   port, the platform server and the identifiers it assigned, the timers
+   (in seconds) and the channel identifiers of the alarm input, video and
+   audio output. Width chosen for audioOutput: 64, as its neighbours. */
+typedef struct network_platform_record {
+    uint8_t enable;
+    int32_t localPort;
+    char serverId[64];
+    char serverRegion[64];
+    char serverAddress[64];
+    int32_t serverPort;
+    char deviceId[64];
+    char password[64];
+    int32_t validity;                  /* registration validity */
+    int32_t heartBeatPeriod;
+    int32_t videoStream;               /* stream sent to the platform, 0 = main */
+    int32_t registerInterval;
+    int32_t maxTimeout;                /* heartbeats missed before going offline */
+    char alarmInput[64];
+    char videoChannel[64];
+    char audioOutput[64];
+} network_platform_record;
+
+/* One push module's switch. The key it is written under comes from the
+   platform library (get_new_module_push_name), not from the record. */
+typedef struct module_push_entry {
+    char moduleName[64];               /* not in the document */
+    uint8_t push;                      /* 1: the module pushes its alarms */
+} module_push_entry;
+
+/* ONVIF and the push service; one push module so far. */
+typedef struct network_more_record {
+    int32_t onvifEnable;
+    int32_t pushEnable;
+    int32_t pushType;
+    module_push_entry modulePush[1];
+} network_more_record;
+
+/* Publishing one stream to an RTMP server (width chosen for server: 256, a
+   full rtmp:// address with its stream key). */
+typedef struct network_rtmp_record {
+    uint8_t enable;
+    uint8_t streamType;                /* 0 = main stream */
+    char server[256];
+} network_rtmp_record;
+
+/* The peer that fills recording gaps after a network loss (automatic
+   network replenishment) and the state of the link to it. */
+typedef struct network_anr_info_record {
+    char anrMac[64];
+    char anrIp[64];
+    int32_t anrStatus;
+} network_anr_info_record;
+
+/* The users logged in now. Only the first onlineUserCount slots are read;
+   the producer keeps the count within 0..30 (it is not clamped). */
+typedef struct network_online_users_record {
+    int32_t onlineUserCount;
+    char onlineUserName[30][128];
+    int32_t onlineUserLevel[30];       /* user level (administrator, operator, viewer) */
+    char onlineUserIp[30][64];
+    char onlineUserTime[30][64];       /* login time as text */
+} network_online_users_record;
+
+/* The mail sent when the camera boots. The SSL mode is stored as two bits:
+   "serverSsl" is 2 * serverSslHigh + serverSslLow. Widths chosen: 128 bytes
+   for every address and the user name. */
+typedef struct network_smtp_boot_notify_record {
+    uint8_t bootNotifyEnable;
+    char emailTarcertAddress[128];     /* the key keeps this spelling */
+    char serverUserName[128];
+    char serverFromAddress[128];
+    char serverAddress[128];
+    char serverToAddress[128];
+    uint32_t serverPort;
+    uint8_t serverSslHigh;
+    uint8_t serverSslLow;
+} network_smtp_boot_notify_record;
+
+/* SIP intercom account and call settings. Width chosen for userName: 64. */
+typedef struct sip_settings {
+    uint8_t enable;
+    uint8_t registerMode;
+    uint8_t sipAudioEnable;
+    uint8_t videoStream;
+    uint32_t serverPort;
+    uint32_t reserved0;                /* not in the document */
+    uint32_t maxDuration;              /* longest call, in seconds */
+    char userId[64];
+    char password[32];
+    char userName[64];
+    char serverAddress[64];
+    uint8_t connectionProtocol;        /* 0 = UDP, 1 = TCP */
+} sip_settings;
+
+/* The SIP page: the settings, owned by the caller and read through the
+   pointer, and the registration state. */
+typedef struct network_sip_settings_record {
+    const sip_settings *settings;      /* must not be NULL: it is not tested */
+    int32_t sipStatus;
+} network_sip_settings_record;
+
+/* A phone the camera calls on an alarm, within a daily time window (hours
+   and minutes, 24-hour clock). An empty phoneNumber marks an empty slot.
+   Width chosen for phoneName: 64. */
+typedef struct sip_alarm_phone_entry {
+    uint32_t reserved0;                /* not in the document */
+    uint8_t phoneType;
+    uint32_t phonePort;
+    uint8_t reserved1;                 /* not in the document */
+    uint8_t durationStartHour;
+    uint8_t durationStartMinute;
+    uint8_t durationEndHour;
+    uint8_t durationEndMinute;
+    char phoneNumber[64];
+    char phoneName[64];
+} sip_alarm_phone_entry;
+
+/* Five alarm phones, filled from slot 0 on: the first empty number ends the
+   list. */
+typedef struct network_sip_alarm_phone_list_record {
+    sip_alarm_phone_entry phones[5];
+} network_sip_alarm_phone_list_record;
+
+/* The numbers allowed to call the camera: five slots, an empty phoneNumber
+   marks an unused one (later slots still count). */
+typedef struct network_sip_white_list_record {
+    int32_t enable;
+    int32_t reserved0[5];              /* not in the document */
+    int32_t phoneType[5];
+    char phoneNumber[5][64];
+} network_sip_white_list_record;
+
+MW_API int32_t get_network_platform_json(const network_platform_record *in, char *dst, int32_t dstSize);
+/* "newModulePush" holds one member for module 0, keyed by the platform
+   library's name for it (a module the platform does not name adds nothing:
+   cJSON refuses a member without a key). */
+MW_API int32_t get_network_more_json(const network_more_record *in, char *dst, int32_t dstSize);
+MW_API int32_t get_network_rtmp_json(const network_rtmp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t get_network_anr_info_json(const network_anr_info_record *in, char *dst, int32_t dstSize);
+/* "onlineUserList": one object per user for i < onlineUserCount (none for a
+   count of 0 or below). */
+MW_API int32_t get_network_online_users_json(const network_online_users_record *in, char *dst,
+                                             int32_t dstSize);
+MW_API int32_t get_network_smtp_boot_notify_json(const network_smtp_boot_notify_record *in, char *dst,
+                                                 int32_t dstSize);
+/* Reads *in->settings, then "sipStatus" last. */
+MW_API int32_t get_network_sip_settings_json(const network_sip_settings_record *in, char *dst,
+                                             int32_t dstSize);
+/* "sipAlarmPhoneList": slots from 0 up to the first empty number, each with
+   its "phoneIndex" and "phoneDuration" as HHMMHHMM (start, end). */
+MW_API int32_t get_network_sip_alarm_phone_list_json(const network_sip_alarm_phone_list_record *in, char *dst,
+                                                     int32_t dstSize);
+/* "sipWhiteList": every slot with a number, "phoneIndex" the slot (0..4). */
+MW_API int32_t get_network_sip_white_list_json(const network_sip_white_list_record *in, char *dst,
+                                               int32_t dstSize);
+
 /* ===== end network ===== */
 
 /* ===== audio and storage ===== */

@@ -1,8 +1,11 @@
 /*
  * network.cpp - the network pages: services (TCP/IP, HTTP, UPnP, VLAN,
- * PPPoE, DDNS, RTSP, SNMP, 802.1X, Bonjour).
+ * PPPoE, DDNS, RTSP, SNMP, 802.1X, Bonjour), platform registration, push,
+ * online users, boot mail and SIP.
  */
 #include "internal.h"
+
+#include "zk_platform.h"
 
 using mw::add;
 
@@ -162,5 +165,150 @@ int32_t get_network_bonjour_json(const network_bonjour_record *in, char *dst, in
     return mw::document(dst, dstSize, [in](cJSON *root) {
         add(root, "enable", in->enable);
         add(root, "name", in->name);
+    });
+}
+
+/* ---- platform, push, online users, mail and SIP ---- */
+
+int32_t get_network_platform_json(const network_platform_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "enable", in->enable);
+        add(root, "localPort", in->localPort);
+        add(root, "serverId", in->serverId);
+        add(root, "serverRegion", in->serverRegion);
+        add(root, "serverAddress", in->serverAddress);
+        add(root, "serverPort", in->serverPort);
+        add(root, "deviceId", in->deviceId);
+        add(root, "password", in->password);
+        add(root, "validity", in->validity);
+        add(root, "heartBeatPeriod", in->heartBeatPeriod);
+        add(root, "videoStream", in->videoStream);
+        add(root, "registerInterval", in->registerInterval);
+        add(root, "maxTimeout", in->maxTimeout);
+        add(root, "alarmInput", in->alarmInput);
+        add(root, "videoChannel", in->videoChannel);
+        add(root, "audioOutput", in->audioOutput);
+    });
+}
+
+int32_t get_network_more_json(const network_more_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "onvifEnable", in->onvifEnable);
+        add(root, "pushEnable", in->pushEnable);
+        add(root, "pushType", in->pushType);
+        cJSON *push = mw::object(root, "newModulePush");
+        // One module today; raise the bound with the record's array when the
+        // platform names more. The platform owns the key texts.
+        for (int32_t m = 0; m <= 0; ++m)
+            add(push, get_new_module_push_name(m), in->modulePush[m].push);
+    });
+}
+
+int32_t get_network_rtmp_json(const network_rtmp_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "enable", in->enable);
+        add(root, "streamType", in->streamType);
+        add(root, "server", in->server);
+    });
+}
+
+int32_t get_network_anr_info_json(const network_anr_info_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "anrMac", in->anrMac);
+        add(root, "anrIp", in->anrIp);
+        add(root, "anrStatus", in->anrStatus);
+    });
+}
+
+int32_t get_network_online_users_json(const network_online_users_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        cJSON *list = mw::array(root, "onlineUserList");
+        for (int32_t i = 0; i < in->onlineUserCount; ++i) {
+            cJSON *user = mw::append_object(list);
+            add(user, "onlineUserName", in->onlineUserName[i]);
+            add(user, "onlineUserLevel", in->onlineUserLevel[i]);
+            add(user, "onlineUserIp", in->onlineUserIp[i]);
+            add(user, "onlineUserTime", in->onlineUserTime[i]);
+        }
+    });
+}
+
+int32_t get_network_smtp_boot_notify_json(const network_smtp_boot_notify_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "bootNotifyEnable", in->bootNotifyEnable);
+        add(root, "serverAddress", in->serverAddress);
+        add(root, "serverPort", in->serverPort);
+        add(root, "serverUserName", in->serverUserName);
+        // The SSL mode is kept as two bits: 0 none, 1 and 2 the two secure modes.
+        add(root, "serverSsl", 2 * static_cast<int32_t>(in->serverSslHigh) + static_cast<int32_t>(in->serverSslLow));
+        add(root, "serverFromAddress", in->serverFromAddress);
+        add(root, "serverToAddress", in->serverToAddress);
+        add(root, "emailTarcertAddress", in->emailTarcertAddress);
+    });
+}
+
+int32_t get_network_sip_settings_json(const network_sip_settings_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        const sip_settings *sip = in->settings;
+        add(root, "enable", sip->enable);
+        add(root, "registerMode", sip->registerMode);
+        add(root, "userId", sip->userId);
+        add(root, "userName", sip->userName);
+        add(root, "password", sip->password);
+        add(root, "serverAddress", sip->serverAddress);
+        add(root, "serverPort", sip->serverPort);
+        add(root, "connectionProtocol", sip->connectionProtocol);
+        add(root, "videoStream", sip->videoStream);
+        add(root, "maxDuration", sip->maxDuration);
+        add(root, "sipAudioEnable", sip->sipAudioEnable);
+        add(root, "sipStatus", in->sipStatus);
+    });
+}
+
+int32_t get_network_sip_alarm_phone_list_json(const network_sip_alarm_phone_list_record *in, char *dst,
+                                              int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        cJSON *list = mw::array(root, "sipAlarmPhoneList");
+        // The phones are kept packed from slot 0: the first empty number ends
+        // the list, whatever the later slots hold.
+        for (int32_t i = 0; i <= 4 && in->phones[i].phoneNumber[0] != '\0'; ++i) {
+            const sip_alarm_phone_entry &phone = in->phones[i];
+            cJSON *item = mw::append_object(list);
+            add(item, "phoneIndex", i);
+            add(item, "phoneType", phone.phoneType);
+            add(item, "phoneNumber", phone.phoneNumber);
+            add(item, "phoneName", phone.phoneName);
+            // Start and end of the daily window as HHMMHHMM; a value above 99
+            // widens its field rather than being cut.
+            mw::add_string(item, "phoneDuration",
+                           mw::Key<32>("%02d%02d%02d%02d", phone.durationStartHour, phone.durationStartMinute,
+                                       phone.durationEndHour, phone.durationEndMinute));
+            add(item, "phonePort", phone.phonePort);
+        }
+    });
+}
+
+int32_t get_network_sip_white_list_json(const network_sip_white_list_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "enable", in->enable);
+        cJSON *list = mw::array(root, "sipWhiteList");
+        // Unused slots are left out but the others keep their slot numbers.
+        for (int32_t i = 0; i <= 4; ++i) {
+            if (in->phoneNumber[i][0] == '\0')
+                continue;
+            cJSON *item = mw::append_object(list);
+            add(item, "phoneIndex", i);
+            add(item, "phoneType", in->phoneType[i]);
+            add(item, "phoneNumber", in->phoneNumber[i]);
+        }
     });
 }

@@ -223,6 +223,71 @@ network_sip_alarm_phone_list_record sample_sip_alarm_phones()
     return r;
 }
 
+// Four streams in use (main, sub, third and the analytics stream); the last
+// two profiles are disabled and have no address.
+network_stream_url_record sample_stream_url()
+{
+    network_stream_url_record r{};
+    const char *const paths[] = {"main", "sub", "third", "fourth"};
+    for (int i = 0; i < 4; ++i) {
+        snprintf(r.rtspStreamUrl[i], sizeof r.rtspStreamUrl[i], "rtsp://192.168.1.64:554/live/%s", paths[i]);
+        snprintf(r.httpStreamUrl[i], sizeof r.httpStreamUrl[i], "http://192.168.1.64:80/livestream/%s.flv",
+                 paths[i]);
+    }
+    return r;
+}
+
+// The tunnel to the operator's office has been up for nine days.
+network_vpn_record sample_vpn()
+{
+    network_vpn_record r{};
+    r.mode = 1;
+    put(r.server, "vpn.northfield-carparks.example");
+    r.port = 1194;
+    put(r.reserved1, "gate-north");
+    put(r.reserved2, "Tunn3l#64");
+    put(r.authCode, "NF-7Q2K-9XWD");
+    put(r.deviceName, "Gate North Entry");
+    r.connected = 1;
+    put(r.localIp, "10.8.0.14");
+    put(r.remoteIp, "10.8.0.1");
+    r.duration = 786432;
+    r.errorCode = 0;
+    return r;
+}
+
+// A 4G modem on a business SIM with a monthly allowance.
+network_cellular_info_record sample_cellular()
+{
+    network_cellular_info_record r{};
+    r.enable = 1;
+    r.pingDetection = 1;
+    put(r.apn, "internet.business.example");
+    put(r.userName, "web");
+    put(r.password, "web");
+    put(r.pinCode, "4821");
+    put(r.accessNumber, "*99#");
+    r.authenticationType = 2;
+    r.networkType = 4;
+    r.redialInterval = 30;
+    r.billDay = 1;
+    put(r.pingAddr, "8.8.8.8");
+    r.mtu = 1428;
+    put(r.isp, "Example Mobile");
+    put(r.simStatus, "ready");
+    r.signal = 23;
+    put(r.connect, "connected");
+    put(r.imei, "861234050123456");
+    put(r.imsi, "234150123456789");
+    put(r.iccid, "8944150123456789012");
+    put(r.ipaddr, "100.72.14.203");
+    put(r.subNetmask, "255.255.255.252");
+    put(r.gateway, "100.72.14.201");
+    put(r.dns, "100.72.0.53");
+    put(r.dataUsage, "12.7 GB");
+    return r;
+}
+
 const CatalogEntry entries[] = {
     {"get_network_tcp_json", "IPv4 and IPv6 addresses, DNS and MTU",
      [](char *dst, int32_t n) {
@@ -389,6 +454,21 @@ const CatalogEntry entries[] = {
              return w;
          }();
          return get_network_sip_white_list_json(&r, dst, n);
+     }},
+    {"get_network_stream_url_json", "RTSP and HTTP addresses of the six streams",
+     [](char *dst, int32_t n) {
+         static const network_stream_url_record r = sample_stream_url();
+         return get_network_stream_url_json(&r, dst, n);
+     }},
+    {"get_network_vpn_json", "VPN client settings and the state of the tunnel",
+     [](char *dst, int32_t n) {
+         static const network_vpn_record r = sample_vpn();
+         return get_network_vpn_json(&r, dst, n);
+     }},
+    {"get_network_cellular_info_json", "cellular modem settings and status",
+     [](char *dst, int32_t n) {
+         static const network_cellular_info_record r = sample_cellular();
+         return get_network_cellular_info_json(&r, dst, n);
      }},
 };
 

@@ -631,6 +631,80 @@ MW_API int32_t get_network_sip_alarm_phone_list_json(const network_sip_alarm_pho
 MW_API int32_t get_network_sip_white_list_json(const network_sip_white_list_record *in, char *dst,
                                                int32_t dstSize);
 
+/* ---- stream addresses, VPN and cellular ---- */
+
+/* The RTSP and HTTP address of each of the six streams, main stream first;
+   an unused stream holds an empty text. */
+typedef struct network_stream_url_record {
+    char rtspStreamUrl[6][256];
+    char httpStreamUrl[6][256];
+} network_stream_url_record;
+
+/* The VPN client: its server and the identity it registers with, and the
+   state of the tunnel. The reserved members hold the client's own settings
+   (32 bytes each, our choice) and are not in the document; width chosen for
+   remoteIp: 64, as localIp. */
+typedef struct network_vpn_record {
+    uint8_t reserved0;                 /* not in the document */
+    uint8_t mode;
+    char server[64];
+    int32_t port;
+    char reserved1[32];                /* not in the document */
+    char reserved2[32];                /* not in the document */
+    char authCode[32];
+    char deviceName[32];
+    uint8_t connected;                 /* 1 while the tunnel is up */
+    char localIp[64];                  /* tunnel addresses */
+    char remoteIp[64];
+    uint64_t duration;                 /* connection time of the tunnel */
+    uint32_t errorCode;                /* last error of the client, 0 = none */
+} network_vpn_record;
+
+/* The cellular modem: dial-up settings (APN, account, PIN, access number),
+   the link check by ping, and the modem's status texts. Password and PIN are
+   the user's settings and are written out as they stand. The reserved members
+   are not in the document (two words each, our choice); width chosen for
+   dataUsage: 32, as the status texts before it. */
+typedef struct network_cellular_info_record {
+    int32_t enable;
+    int32_t pingDetection;             /* 1: check the link by pinging pingAddr */
+    char apn[256];
+    char userName[256];
+    char password[128];
+    char pinCode[256];
+    char accessNumber[256];
+    int32_t authenticationType;
+    int32_t networkType;
+    int32_t redialInterval;
+    int32_t billDay;                   /* day of the month the data allowance restarts */
+    int32_t reserved0[2];              /* not in the document */
+    char pingAddr[256];
+    int32_t mtu;
+    int32_t reserved1[2];              /* not in the document */
+    char isp[32];
+    char simStatus[32];
+    int32_t signal;                    /* signal strength */
+    char connect[32];
+    char imei[32];
+    char imsi[32];
+    char iccid[32];
+    char ipaddr[32];
+    char subNetmask[32];
+    char gateway[32];
+    char dns[32];
+    char dataUsage[32];
+} network_cellular_info_record;
+
+/* "rtspStreamUrl" and "httpStreamUrl": six objects each, {"url"}, empty
+   addresses included. */
+MW_API int32_t get_network_stream_url_json(const network_stream_url_record *in, char *dst, int32_t dstSize);
+/* "mode" follows the texts; "duration" is an unsigned 64-bit number written
+   as a JSON number (exact up to 2^53). */
+MW_API int32_t get_network_vpn_json(const network_vpn_record *in, char *dst, int32_t dstSize);
+/* 25 members; "pingDetection" comes after "billDay". */
+MW_API int32_t get_network_cellular_info_json(const network_cellular_info_record *in, char *dst,
+                                              int32_t dstSize);
+
 /* ===== end network ===== */
 
 /* ===== audio and storage ===== */

@@ -1,13 +1,26 @@
 /*
  * network.cpp - the network pages: services (TCP/IP, HTTP, UPnP, VLAN,
  * PPPoE, DDNS, RTSP, SNMP, 802.1X, Bonjour), platform registration, push,
- * online users, boot mail and SIP.
+ * online users, boot mail and SIP, stream addresses, VPN and cellular.
  */
 #include "internal.h"
 
 #include "zk_platform.h"
 
 using mw::add;
+
+namespace {
+
+/* A list of the six streams' addresses under `key`: one {"url"} object per
+   stream, main stream first, empty addresses kept. */
+void add_stream_urls(cJSON *root, const char *key, const char (&urls)[6][256])
+{
+    cJSON *list = mw::array(root, key);
+    for (int32_t i = 0; i <= 5; ++i)
+        add(mw::append_object(list), "url", urls[i]);
+}
+
+} // namespace
 
 /* ---- network services ---- */
 
@@ -310,5 +323,62 @@ int32_t get_network_sip_white_list_json(const network_sip_white_list_record *in,
             add(item, "phoneType", in->phoneType[i]);
             add(item, "phoneNumber", in->phoneNumber[i]);
         }
+    });
+}
+
+/* ---- stream addresses, VPN and cellular ---- */
+
+int32_t get_network_stream_url_json(const network_stream_url_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add_stream_urls(root, "rtspStreamUrl", in->rtspStreamUrl);
+        add_stream_urls(root, "httpStreamUrl", in->httpStreamUrl);
+    });
+}
+
+int32_t get_network_vpn_json(const network_vpn_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "server", in->server);
+        add(root, "port", in->port);
+        add(root, "authCode", in->authCode);
+        add(root, "deviceName", in->deviceName);
+        add(root, "mode", in->mode); // after the texts, though stored first
+        add(root, "connected", in->connected);
+        add(root, "localIp", in->localIp);
+        add(root, "remoteIp", in->remoteIp);
+        add(root, "duration", in->duration);
+        add(root, "errorCode", in->errorCode);
+    });
+}
+
+int32_t get_network_cellular_info_json(const network_cellular_info_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "enable", in->enable);
+        add(root, "apn", in->apn);
+        add(root, "userName", in->userName);
+        add(root, "password", in->password);
+        add(root, "pinCode", in->pinCode);
+        add(root, "accessNumber", in->accessNumber);
+        add(root, "authenticationType", in->authenticationType);
+        add(root, "networkType", in->networkType);
+        add(root, "redialInterval", in->redialInterval);
+        add(root, "billDay", in->billDay);
+        add(root, "pingDetection", in->pingDetection); // beside its address, though stored second
+        add(root, "pingAddr", in->pingAddr);
+        add(root, "mtu", in->mtu);
+        add(root, "isp", in->isp);
+        add(root, "simStatus", in->simStatus);
+        add(root, "signal", in->signal);
+        add(root, "connect", in->connect);
+        add(root, "imei", in->imei);
+        add(root, "imsi", in->imsi);
+        add(root, "iccid", in->iccid);
+        add(root, "ipaddr", in->ipaddr);
+        add(root, "subNetmask", in->subNetmask);
+        add(root, "gateway", in->gateway);
+        add(root, "dns", in->dns);
+        add(root, "dataUsage", in->dataUsage);
     });
 }

@@ -457,7 +457,10 @@ typedef struct network_bonjour_record {
 MW_API int32_t get_network_tcp_json(const network_tcp_record *in, char *dst, int32_t dstSize);
 /* "httpEnable" comes before "httpPort". */
 MW_API int32_t get_network_http_json(const network_http_record *in, char *dst, int32_t dstSize);
+/* 16 members: switches, name and type, then the twelve ports and states in
+   record order ("upnpPlayBackPort" with a capital B). */
 MW_API int32_t get_network_upnp_json(const network_upnp_record *in, char *dst, int32_t dstSize);
+/* "vlanEnable", "vlanId", then the three addresses. */
 MW_API int32_t get_network_vlan_json(const network_vlan_record *in, char *dst, int32_t dstSize);
 /* No password is written. */
 MW_API int32_t get_network_pppoe_json(const network_pppoe_record *in, char *dst, int32_t dstSize);
@@ -470,6 +473,7 @@ MW_API int32_t get_network_rtsp_json(const network_rtsp_record *in, char *dst, i
 MW_API int32_t get_network_snmp_json(const network_snmp_record *in, char *dst, int32_t dstSize);
 /* "protocol" is always "EAP-MD5"; "eapolver" is the stored byte plus 1. */
 MW_API int32_t get_network_8021x_json(const network_8021x_record *in, char *dst, int32_t dstSize);
+/* "enable" (unsigned byte) and "name". */
 MW_API int32_t get_network_bonjour_json(const network_bonjour_record *in, char *dst, int32_t dstSize);
 
 /* ---- platform, push, online users, mail and SIP ---- */
@@ -607,17 +611,22 @@ typedef struct network_sip_white_list_record {
     char phoneNumber[5][64];
 } network_sip_white_list_record;
 
+/* 16 members in record order; the password is written as stored. */
 MW_API int32_t get_network_platform_json(const network_platform_record *in, char *dst, int32_t dstSize);
 /* "newModulePush" holds one member for module 0, keyed by the platform
    library's name for it (a module the platform does not name adds nothing:
    cJSON refuses a member without a key). */
 MW_API int32_t get_network_more_json(const network_more_record *in, char *dst, int32_t dstSize);
+/* "enable", "streamType" (unsigned bytes), "server". */
 MW_API int32_t get_network_rtmp_json(const network_rtmp_record *in, char *dst, int32_t dstSize);
+/* "anrMac", "anrIp", "anrStatus". */
 MW_API int32_t get_network_anr_info_json(const network_anr_info_record *in, char *dst, int32_t dstSize);
 /* "onlineUserList": one object per user for i < onlineUserCount (none for a
    count of 0 or below). */
 MW_API int32_t get_network_online_users_json(const network_online_users_record *in, char *dst,
                                              int32_t dstSize);
+/* Server first, then the addresses; "serverSsl" combines the two bits and
+   "serverPort" is unsigned. */
 MW_API int32_t get_network_smtp_boot_notify_json(const network_smtp_boot_notify_record *in, char *dst,
                                                  int32_t dstSize);
 /* Reads *in->settings, then "sipStatus" last. */

@@ -1,4 +1,5 @@
 // The stream-address list, the VPN client and the cellular modem documents.
+#include "catalog.h"
 #include "support.h"
 
 #include <cstring>
@@ -9,12 +10,6 @@ namespace {
 using test::A;
 using test::N;
 using test::S;
-
-template <size_t Size>
-void put(char (&field)[Size], const char *text)
-{
-    snprintf(field, Size, "%s", text);
-}
 
 void expect_urls(const cJSON *list, const char *const (&urls)[6])
 {

@@ -361,6 +361,177 @@ MW_API int32_t get_system_online_heart_json(const system_online_heart_record *in
 
 /* ===== vca ===== */
 
+/*
+ * The analytics rules. Every number is a signed 32-bit value; every text is
+ * copied into the document as stored (polygon and schedule syntax belong to
+ * the web pages, the library neither parses nor checks them).
+ *
+ * The region model shared by region entrance, region exit, advanced motion,
+ * loitering, object left/removed and regional people counting: 4 detection
+ * regions, indexed 0..3, each drawn as a polygon (`polygonX[r]` holds the X
+ * coordinates of its points as one text, `polygonY[r]` the Y coordinates) and
+ * once more for each of up to 4 PTZ presets (`presetPolygonX[r][p]`, region
+ * first, preset polygon second, both 0-based). A region whose enable flag is 0
+ * is still reported in full. The object-size filter `minX` .. `maxHeight` is
+ * the smallest and the largest box of an object that may trigger the rule;
+ * `schedule[d]` is the day's arming text, d 0..6.
+ *
+ * Members named reserved... are not in any document. Their number is ours:
+ * the rules keep their regions, polygons and schedules at fixed places and the
+ * reserved words fill the gaps, so region exit stands exactly eleven words
+ * behind region entrance from its enable flags on.
+ */
+
+/* The installation mode of the analytics (ceiling, wall and the like). */
+typedef struct vca_install_mode_record {
+    int32_t Installation;
+} vca_install_mode_record;
+
+/* Region entrance: an object entering one of the regions. */
+typedef struct vca_region_entrance_record {
+    int32_t reserved0[2];
+    int32_t regionEnable[4];             /* per region, 1 = armed */
+    int32_t intrusionEnterSens;
+    int32_t intrusionEnterTracking;
+    int32_t detectionObject[4];          /* per region: which objects count */
+    int32_t reserved1[4];
+    int32_t minX;
+    int32_t minY;
+    int32_t minWidth;
+    int32_t minHeight;
+    int32_t maxX;
+    int32_t maxY;
+    int32_t maxWidth;
+    int32_t maxHeight;
+    int32_t reserved2[2];
+    char polygonX[4][64];
+    char polygonY[4][64];
+    char presetPolygonX[4][4][64];
+    char presetPolygonY[4][4][64];
+    int32_t scene;
+    int32_t reserved3[2];
+    char schedule[7][256];
+} vca_region_entrance_record;
+
+/* Region exit: the entrance layout behind eleven more leading words. */
+typedef struct vca_region_exit_record {
+    int32_t reserved0[13];
+    int32_t regionEnable[4];
+    int32_t intrusionExitSens;
+    int32_t intrusionExitTracking;
+    int32_t detectionObject[4];
+    int32_t reserved1[4];
+    int32_t minX;
+    int32_t minY;
+    int32_t minWidth;
+    int32_t minHeight;
+    int32_t maxX;
+    int32_t maxY;
+    int32_t maxWidth;
+    int32_t maxHeight;
+    int32_t reserved2[2];
+    char polygonX[4][64];
+    char polygonY[4][64];
+    char presetPolygonX[4][4][64];
+    char presetPolygonY[4][4][64];
+    int32_t scene;
+    int32_t reserved3[2];
+    char schedule[7][256];
+} vca_region_exit_record;
+
+/* Advanced motion: motion inside a region. Sensitivity, tracking, detection
+   objects and the size filter follow the schedule in this record. */
+typedef struct vca_advanced_motion_record {
+    int32_t reserved0[13];
+    int32_t advancedMotionEnable[4];     /* per region */
+    int32_t reserved1[20];               /* where region exit keeps its values and size filter */
+    char polygonX[4][64];
+    char polygonY[4][64];
+    char presetPolygonX[4][4][64];
+    char presetPolygonY[4][4][64];
+    int32_t scene;
+    int32_t reserved2[2];
+    char schedule[7][256];
+    int32_t advancedMotionSens;
+    int32_t advancedMotionTracking;
+    int32_t advancedMotionDetectionObject[4];   /* per region */
+    int32_t ignoreShortLived;            /* 1 = ignore objects seen only briefly */
+    int32_t reserved3[3];
+    int32_t minX;
+    int32_t minY;
+    int32_t minWidth;
+    int32_t minHeight;
+    int32_t maxX;
+    int32_t maxY;
+    int32_t maxWidth;
+    int32_t maxHeight;
+} vca_advanced_motion_record;
+
+/* Loitering: an object staying in a region longer than minLoiteringTime. The
+   rule has no sensitivity: the word where the other rules keep it is not read,
+   and the size filter comes last. */
+typedef struct vca_loitering_record {
+    int32_t reserved0[13];
+    int32_t loiteringEnable[4];          /* per region */
+    int32_t reservedSensitivity;         /* not in the document */
+    int32_t loiteringTracking;
+    int32_t loiteringDetectionObject[4]; /* per region */
+    int32_t reserved1[14];               /* where region exit keeps its size filter */
+    char polygonX[4][64];
+    char polygonY[4][64];
+    char presetPolygonX[4][4][64];
+    char presetPolygonY[4][4][64];
+    int32_t scene;
+    int32_t reserved2[2];
+    char schedule[7][256];
+    int32_t minLoiteringTime[4];         /* per region, seconds */
+    int32_t reserved3[4];
+    int32_t minX;
+    int32_t minY;
+    int32_t minWidth;
+    int32_t minHeight;
+    int32_t maxX;
+    int32_t maxY;
+    int32_t maxWidth;
+    int32_t maxHeight;
+} vca_loitering_record;
+
+/* Tamper (defocus, cover, scene change): one switch for the whole picture. */
+typedef struct vca_tamper_record {
+    int32_t tamperEnable;
+    int32_t tamperSens;
+    char schedule[7][256];
+} vca_tamper_record;
+
+/* Human detection. */
+typedef struct vca_human_detection_record {
+    int32_t humanEnable;
+    int32_t humanShowTrackEnable;        /* 1 = draw the tracks on the live view */
+    int32_t humanSens;
+    int32_t humanTracking;
+    char humanSchedule[7][256];          /* per day, 0..6 */
+} vca_human_detection_record;
+
+/* {"Installation"} - the key keeps its capital letter. */
+MW_API int32_t get_vca_install_mode_json(const vca_install_mode_record *in, char *dst, int32_t dstSize);
+/* Sensitivity, tracking, scene and size filter, then "detectionInfoList"
+   (all 4 regions, each with its 4 preset polygons) and "scheduleList". */
+MW_API int32_t get_vca_region_entrance_json(const vca_region_entrance_record *in, char *dst,
+                                            int32_t dstSize);
+MW_API int32_t get_vca_region_exit_json(const vca_region_exit_record *in, char *dst, int32_t dstSize);
+/* As region entrance, with "ignoreShortLived" after "scene". */
+MW_API int32_t get_vca_advanced_motion_json(const vca_advanced_motion_record *in, char *dst,
+                                            int32_t dstSize);
+/* As region entrance without a sensitivity key; each region also carries its
+   "minLoiteringTime". */
+MW_API int32_t get_vca_loitering_json(const vca_loitering_record *in, char *dst, int32_t dstSize);
+/* "tamperEnable", "tamperSens", "scheduleList". */
+MW_API int32_t get_vca_tamper_json(const vca_tamper_record *in, char *dst, int32_t dstSize);
+/* The four values, then the schedule as seven flat keys "humanSchedule_0" ..
+   "humanSchedule_6" (no "scheduleList"). */
+MW_API int32_t get_vca_human_detection_json(const vca_human_detection_record *in, char *dst,
+                                            int32_t dstSize);
+
 /* ===== end vca ===== */
 
 /* ===== lpr ===== */

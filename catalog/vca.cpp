@@ -117,6 +117,111 @@ vca_loitering_record sample_loitering()
     return r;
 }
 
+// Analytics on around the clock; slot 0 (region entrance) records, mails and
+// lights the white LED, slot 4 (line crossing) uploads a snapshot and rings
+// the alarm output; the other slots keep the factory timings.
+vca_configuration_record sample_configuration()
+{
+    vca_configuration_record r{};
+    r.vcaId = 1;
+    put(r.vcaName, "Loading bay");
+    r.vcaEnable = 1;
+    r.vcaPeriodic = 1;
+    r.vcaWeekdays = 127; // every day
+    r.vcaStartTime = 0;
+    r.vcaDuration = 1440; // minutes
+    r.triggerBootEnable = 0;
+    r.triggerScheduleEnable = 1;
+    r.uploadType = 1;
+    r.uploadPostAlarm = 5;
+    r.emailFileType = 1;
+    r.emailPostAlarm = 5;
+    put(r.email, "security@warehouse-7.example.com");
+    put(r.emailSubject, "Loading bay alarm");
+    put(r.emailInformation, "Movement at dock door 2");
+    r.emailUpload = 1;
+    r.httpPostAlarm = 0;
+    r.httpInterval = 10;
+    for (int s = 0; s < 13; ++s) {
+        r.uploadFileType[s] = 1;
+        r.recordFileType[s] = 0;
+        r.nasFileType[s] = 1;
+        r.recordSecond[s] = 30;
+        r.prerecordSecond[s] = 5;
+        r.snapShot[s] = 1;
+        r.snapShotInterval[s] = 2;
+        r.snapShotIntervalUnit[s] = 0;
+        r.triggerDuration[s] = 10;
+        r.audioInterval[s] = 5;
+        r.emailInterval[s] = 60;
+        r.whiteledFlashMode[s] = 1;
+        r.whiteledFlashTime[s] = 10;
+        r.whiteledAlwaysTime[s] = 30;
+        r.whiteledEffectMode[s] = 0;
+        r.whiteledEffectValue[s] = 3;
+        r.whiteledStartHour[s] = 18;
+        r.whiteledStartMinute[s] = 30;
+        r.whiteledStopHour[s] = 6;
+        r.whiteledStopMinute[s] = 0;
+        r.whiteledGroup[s] = 1;
+    }
+    r.recordEnable[0] = 1;
+    r.emailEnable[0] = 1;
+    r.whitelightEnable[0] = 1;
+    r.nasEnable[0] = 1;
+    r.uploadEnable[4] = 1;
+    r.gpoutEnable[4] = 1;
+    r.audioEnable[4] = 1;
+    r.httpEnable[4] = 1;
+    r.recordEnable[4] = 1;
+    r.recordSecond[4] = 60;
+    return r;
+}
+
+// Someone is loitering at the dock door; the entrance counter has run all day.
+vca_alarm_status_record sample_alarm_status()
+{
+    vca_alarm_status_record r{};
+    r.regionEntranceStatus = 0;
+    r.loiteringAlarmStatus = 1;
+    r.lineAlarmStatus[1] = 1;
+    r.peopleCountingStatus = 1;
+    r.humanAlarmStatus = 1;
+    r.currentInCount = 214;
+    r.currentOutCount = 198;
+    r.currentSumCount = 412;
+    r.currentCapacityCount = 16;
+    r.vehicleCountingStatus = 1;
+    r.vehicleInCount = 37;
+    r.vehicleOutCount = 35;
+    r.vehicleSumCount = 72;
+    r.vehicleCapacityCount = 2;
+    return r;
+}
+
+// Input 1 (the dock door contact) is open and output 0 drives the siren; the
+// SD card is full, which is reported because its switch is on.
+vca_all_alarm_status_record sample_all_alarm_status()
+{
+    vca_all_alarm_status_record r{};
+    r.motionAlarmStatus = 1;
+    r.inputAlarmStatus[1] = 1;
+    r.outputAlarmStatus[0] = 1;
+    r.netlostEnable = 1;
+    r.ipconflictEnable = 1;
+    r.recordFailedEnable = 1;
+    r.sdFullEnable = 1;
+    r.sdFullAlarmStatus = 1;
+    r.sdUninitEnable = 1;
+    r.sdErrorEnable = 1;
+    r.noSdEnable = 0;
+    r.tamperEnable = 1;
+    r.subMotionAlarmStatus = 1;
+    r.alarmArea = 2;
+    r.lprWhiteStatus = 1;
+    return r;
+}
+
 const CatalogEntry entries[] = {
     {"get_vca_install_mode_json", "how the analytics camera is mounted",
      [](char *dst, int32_t n) {
@@ -170,6 +275,26 @@ const CatalogEntry entries[] = {
              return h;
          }();
          return get_vca_human_detection_json(&r, dst, n);
+     }},
+    {"get_vca_configuration_json", "analytics identity, period and the actions of its 13 slots",
+     [](char *dst, int32_t n) {
+         static const vca_configuration_record r = sample_configuration();
+         return get_vca_configuration_json(&r, dst, n);
+     }},
+    {"get_vca_alarm_status_json", "live state and counters of the analytics rules",
+     [](char *dst, int32_t n) {
+         static const vca_alarm_status_record r = sample_alarm_status();
+         return get_vca_alarm_status_json(&r, dst, n);
+     }},
+    {"get_vca_all_alarm_status_json", "live state of motion, inputs, outputs, storage and plate lists",
+     [](char *dst, int32_t n) {
+         static const vca_all_alarm_status_record r = sample_all_alarm_status();
+         return get_vca_all_alarm_status_json(&r, dst, n);
+     }},
+    {"get_vca_exception_alarm_status_json", "exception alarms with their enable switches",
+     [](char *dst, int32_t n) {
+         static const vca_all_alarm_status_record r = sample_all_alarm_status();
+         return get_vca_exception_alarm_status_json(&r, dst, n);
      }},
 };
 

@@ -532,6 +532,138 @@ MW_API int32_t get_vca_tamper_json(const vca_tamper_record *in, char *dst, int32
 MW_API int32_t get_vca_human_detection_json(const vca_human_detection_record *in, char *dst,
                                             int32_t dstSize);
 
+/* The analytics configuration: identity, activation period, and what the
+   camera does when an analytics event fires. Every [13] array is indexed by
+   action slot 0..12; the document numbers the slots, it does not name them.
+   The period fields and the file types are codes of the web pages, passed
+   through. */
+typedef struct vca_configuration_record {
+    int32_t vcaId;
+    char vcaName[32];
+    int32_t vcaEnable;
+    int32_t vcaPeriodic;
+    int32_t vcaWeekdays;
+    int32_t vcaStartTime;
+    int32_t vcaDuration;
+    int32_t triggerBootEnable;
+    int32_t triggerScheduleEnable;
+    int32_t uploadEnable[13];
+    int32_t uploadFileType[13];
+    int32_t uploadType;
+    int32_t uploadPostAlarm;
+    int32_t emailEnable[13];
+    int32_t emailFileType;
+    int32_t emailPostAlarm;
+    char email[256];                     /* recipient address(es) */
+    char emailSubject[32];
+    char emailInformation[32];           /* message body */
+    int32_t emailUpload;
+    int32_t httpEnable[13];
+    int32_t httpPostAlarm;
+    int32_t httpInterval;
+    int32_t recordEnable[13];
+    int32_t recordFileType[13];
+    int32_t gpoutEnable[13];             /* alarm output */
+    int32_t nasEnable[13];
+    int32_t nasFileType[13];
+    int32_t sipEnable[13];
+    int32_t audioEnable[13];
+    int32_t whitelightEnable[13];
+    int32_t recordSecond[13];
+    int32_t prerecordSecond[13];
+    int32_t snapShot[13];
+    int32_t snapShotInterval[13];
+    int32_t snapShotIntervalUnit[13];
+    int32_t triggerDuration[13];
+    int32_t audioInterval[13];
+    int32_t emailInterval[13];
+    int32_t whiteledFlashMode[13];
+    int32_t whiteledFlashTime[13];
+    int32_t whiteledAlwaysTime[13];
+    int32_t whiteledEffectMode[13];
+    int32_t whiteledEffectValue[13];
+    int32_t whiteledStartHour[13];
+    int32_t whiteledStartMinute[13];
+    int32_t whiteledStopHour[13];
+    int32_t whiteledStopMinute[13];
+    int32_t whiteledGroup[13];
+} vca_configuration_record;
+
+/* The live state of the analytics rules and their counters. */
+typedef struct vca_alarm_status_record {
+    int32_t regionEntranceStatus;
+    int32_t regionExitAlarmStatus;
+    int32_t advancedMotionAlarmStatus;
+    int32_t tamperAlarmStatus;
+    int32_t loiteringAlarmStatus;
+    int32_t lineAlarmStatus[4];          /* per crossing line, 0..3 */
+    int32_t peopleCountingStatus;
+    int32_t currentCounterAlarmStatus;
+    int32_t humanAlarmStatus;
+    int32_t currentInCount;
+    int32_t currentOutCount;
+    int32_t currentSumCount;
+    int32_t currentCapacityCount;
+    int32_t objectLeftAlarmStatus;
+    int32_t objectRemoveAlarmStatus;
+    int32_t vehicleCountingStatus;
+    int32_t currentVehicleAlarm;
+    int32_t vehicleInCount;
+    int32_t vehicleOutCount;
+    int32_t vehicleSumCount;
+    int32_t vehicleCapacityCount;
+    int32_t regionalPeopleStatus;
+} vca_alarm_status_record;
+
+/* The state of the camera's other alarms. The exception alarms come as pairs,
+   switch first and state second. */
+typedef struct vca_all_alarm_status_record {
+    int32_t motionAlarmStatus;
+    int32_t inputAlarmStatus[4];         /* per alarm input, 0..3 */
+    int32_t outputAlarmStatus[2];        /* per alarm output, 0..1 */
+    int32_t audioAlarmStatus;
+    int32_t netlostEnable;
+    int32_t networkLostAlarmStatus;
+    int32_t ipconflictEnable;
+    int32_t ipConflictAlarmStatus;
+    int32_t recordFailedEnable;
+    int32_t recordFailedAlarmStatus;
+    int32_t sdFullEnable;
+    int32_t sdFullAlarmStatus;
+    int32_t sdUninitEnable;
+    int32_t sdUninitAlarmStatus;
+    int32_t sdErrorEnable;
+    int32_t sdErrorAlarmStatus;
+    int32_t noSdEnable;
+    int32_t noSdAlarmStatus;
+    int32_t tamperEnable;
+    int32_t tamperAlarmStatus;
+    int32_t subMotionAlarmStatus;        /* motion on the second .. fifth motion area */
+    int32_t thirdMotionAlarmStatus;
+    int32_t fourthMotionAlarmStatus;
+    int32_t fifthMotionAlarmStatus;
+    int32_t alarmArea;
+    int32_t lprBlackStatus;              /* plate on the block list seen */
+    int32_t lprWhiteStatus;
+    int32_t lprVisitorStatus;
+    int32_t lprAttrStatus;
+} vca_all_alarm_status_record;
+
+/* A flat document: identity and period, then the slot keys "uploadEnable_0"
+   .. "whiteledGroup_12", grouped by loop as the pages expect them. */
+MW_API int32_t get_vca_configuration_json(const vca_configuration_record *in, char *dst, int32_t dstSize);
+/* The rule states and counters, then "lineCrossAlarmList" (4 lines). */
+MW_API int32_t get_vca_alarm_status_json(const vca_alarm_status_record *in, char *dst, int32_t dstSize);
+/* The alarm states, then "inputAlarmList" (4) and "outputAlarmList" (2); the
+   exception switches and the tamper pair are not in this document. */
+MW_API int32_t get_vca_all_alarm_status_json(const vca_all_alarm_status_record *in, char *dst,
+                                             int32_t dstSize);
+/* The exception alarms from the same record, switch then state; the IP
+   conflict state is "ipconflictAlarmStatus" here, "ipConflictAlarmStatus" in
+   the document above. */
+MW_API int32_t get_vca_exception_alarm_status_json(const vca_all_alarm_status_record *in, char *dst,
+                                                   int32_t dstSize);
+
 /* ===== end vca ===== */
 
 /* ===== lpr ===== */

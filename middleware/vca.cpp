@@ -155,3 +155,194 @@ int32_t get_vca_human_detection_json(const vca_human_detection_record *in, char 
             add(root, mw::Key<32>("humanSchedule_%d", d), in->humanSchedule[d]);
     });
 }
+
+/* ---- configuration and alarm states ---- */
+
+namespace {
+
+/* A slot-indexed key: its format ("uploadEnable_%d") and the [13] array it
+   reports, slot s under the key formatted with s. */
+struct SlotValue {
+    const char *format;
+    const int32_t (*values)[13];
+};
+
+/* One loop over the 13 action slots; within a slot the formats alternate in
+   the order given, so all keys of slot 0 come before any of slot 1. */
+template <size_t N>
+void add_slot_loop(cJSON *root, const SlotValue (&formats)[N])
+{
+    for (int32_t s = 0; s < 13; ++s)
+        for (const SlotValue &f : formats)
+            add(root, mw::Key<32>(f.format, s), (*f.values)[s]);
+}
+
+} // namespace
+
+int32_t get_vca_configuration_json(const vca_configuration_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "vcaId", in->vcaId);
+        add(root, "vcaName", in->vcaName);
+        add(root, "vcaEnable", in->vcaEnable);
+        add(root, "vcaPeriodic", in->vcaPeriodic);
+        add(root, "vcaWeekdays", in->vcaWeekdays);
+        add(root, "vcaStartTime", in->vcaStartTime);
+        add(root, "vcaDuration", in->vcaDuration);
+        add(root, "triggerBootEnable", in->triggerBootEnable);
+        add(root, "triggerScheduleEnable", in->triggerScheduleEnable);
+
+        const SlotValue upload[] = {{"uploadEnable_%d", &in->uploadEnable}};
+        add_slot_loop(root, upload);
+        const SlotValue uploadFile[] = {{"uploadFileType_%d", &in->uploadFileType}};
+        add_slot_loop(root, uploadFile);
+        add(root, "uploadType", in->uploadType);
+        add(root, "uploadPostAlarm", in->uploadPostAlarm);
+
+        const SlotValue email[] = {{"emailEnable_%d", &in->emailEnable}};
+        add_slot_loop(root, email);
+        add(root, "emailFileType", in->emailFileType);
+        add(root, "emailPostAlarm", in->emailPostAlarm);
+        add(root, "email", in->email);
+        add(root, "emailSubject", in->emailSubject);
+        add(root, "emailInformation", in->emailInformation);
+        add(root, "emailUpload", in->emailUpload);
+
+        const SlotValue http[] = {{"httpEnable_%d", &in->httpEnable}};
+        add_slot_loop(root, http);
+        add(root, "httpPostAlarm", in->httpPostAlarm);
+        add(root, "httpInterval", in->httpInterval);
+
+        const SlotValue record[] = {
+            {"recordEnable_%d", &in->recordEnable},
+            {"recordFileType_%d", &in->recordFileType},
+        };
+        add_slot_loop(root, record);
+        const SlotValue gpout[] = {{"gpoutEnable_%d", &in->gpoutEnable}};
+        add_slot_loop(root, gpout);
+        const SlotValue nas[] = {
+            {"nasEnable_%d", &in->nasEnable},
+            {"nasFileType_%d", &in->nasFileType},
+        };
+        add_slot_loop(root, nas);
+        const SlotValue sip[] = {{"sipEnable_%d", &in->sipEnable}};
+        add_slot_loop(root, sip);
+        const SlotValue audio[] = {{"audioEnable_%d", &in->audioEnable}};
+        add_slot_loop(root, audio);
+        const SlotValue whitelight[] = {{"whitelightEnable_%d", &in->whitelightEnable}};
+        add_slot_loop(root, whitelight);
+
+        const SlotValue timing[] = {
+            {"recordSecond_%d", &in->recordSecond},
+            {"prerecordSecond_%d", &in->prerecordSecond},
+            {"snapShot_%d", &in->snapShot},
+            {"snapShotInterval_%d", &in->snapShotInterval},
+            {"snapShotIntervalUnit_%d", &in->snapShotIntervalUnit},
+            {"triggerDuration_%d", &in->triggerDuration},
+            {"audioInterval_%d", &in->audioInterval},
+            {"emailInterval_%d", &in->emailInterval},
+            {"whiteledFlashMode_%d", &in->whiteledFlashMode},
+            {"whiteledFlashTime_%d", &in->whiteledFlashTime},
+            {"whiteledAlwaysTime_%d", &in->whiteledAlwaysTime},
+            {"whiteledEffectMode_%d", &in->whiteledEffectMode},
+            {"whiteledEffectValue_%d", &in->whiteledEffectValue},
+            {"whiteledStartHour_%d", &in->whiteledStartHour},
+            {"whiteledStartMinute_%d", &in->whiteledStartMinute},
+            {"whiteledStopHour_%d", &in->whiteledStopHour},
+            {"whiteledStopMinute_%d", &in->whiteledStopMinute},
+            {"whiteledGroup_%d", &in->whiteledGroup},
+        };
+        add_slot_loop(root, timing);
+    });
+}
+
+int32_t get_vca_alarm_status_json(const vca_alarm_status_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "regionEntranceStatus", in->regionEntranceStatus); // no "Alarm" in this one
+        add(root, "regionExitAlarmStatus", in->regionExitAlarmStatus);
+        add(root, "advancedMotionAlarmStatus", in->advancedMotionAlarmStatus);
+        add(root, "tamperAlarmStatus", in->tamperAlarmStatus);
+        add(root, "loiteringAlarmStatus", in->loiteringAlarmStatus);
+        add(root, "peopleCountingStatus", in->peopleCountingStatus);
+        add(root, "currentCounterAlarmStatus", in->currentCounterAlarmStatus);
+        add(root, "humanAlarmStatus", in->humanAlarmStatus);
+        add(root, "currentInCount", in->currentInCount);
+        add(root, "currentOutCount", in->currentOutCount);
+        add(root, "currentSumCount", in->currentSumCount);
+        add(root, "currentCapacityCount", in->currentCapacityCount);
+        add(root, "objectLeftAlarmStatus", in->objectLeftAlarmStatus);
+        add(root, "objectRemoveAlarmStatus", in->objectRemoveAlarmStatus);
+        add(root, "vehicleCountingStatus", in->vehicleCountingStatus);
+        add(root, "currentVehicleAlarm", in->currentVehicleAlarm);
+        add(root, "vehicleInCount", in->vehicleInCount);
+        add(root, "vehicleOutCount", in->vehicleOutCount);
+        add(root, "vehicleSumCount", in->vehicleSumCount);
+        add(root, "vehicleCapacityCount", in->vehicleCapacityCount);
+        add(root, "regionalPeopleStatus", in->regionalPeopleStatus);
+        cJSON *lines = mw::array(root, "lineCrossAlarmList");
+        for (int32_t l = 0; l < 4; ++l) {
+            cJSON *line = mw::append_object(lines);
+            add(line, "lineIndex", l);
+            add(line, "alarmStatus", in->lineAlarmStatus[l]);
+        }
+    });
+}
+
+int32_t get_vca_all_alarm_status_json(const vca_all_alarm_status_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "motionAlarmStatus", in->motionAlarmStatus);
+        add(root, "audioAlarmStatus", in->audioAlarmStatus);
+        add(root, "networkLostAlarmStatus", in->networkLostAlarmStatus);
+        add(root, "ipConflictAlarmStatus", in->ipConflictAlarmStatus);
+        add(root, "recordFailedAlarmStatus", in->recordFailedAlarmStatus);
+        add(root, "sdFullAlarmStatus", in->sdFullAlarmStatus);
+        add(root, "sdUninitAlarmStatus", in->sdUninitAlarmStatus);
+        add(root, "sdErrorAlarmStatus", in->sdErrorAlarmStatus);
+        add(root, "noSdAlarmStatus", in->noSdAlarmStatus);
+        add(root, "subMotionAlarmStatus", in->subMotionAlarmStatus);
+        add(root, "thirdMotionAlarmStatus", in->thirdMotionAlarmStatus);
+        add(root, "fourthMotionAlarmStatus", in->fourthMotionAlarmStatus);
+        add(root, "fifthMotionAlarmStatus", in->fifthMotionAlarmStatus);
+        add(root, "alarmArea", in->alarmArea);
+        add(root, "lprBlackStatus", in->lprBlackStatus);
+        add(root, "lprWhiteStatus", in->lprWhiteStatus);
+        add(root, "lprVisitorStatus", in->lprVisitorStatus);
+        add(root, "lprAttrStatus", in->lprAttrStatus);
+        cJSON *inputs = mw::array(root, "inputAlarmList");
+        for (int32_t i = 0; i < 4; ++i) {
+            cJSON *input = mw::append_object(inputs);
+            add(input, "inputAlarmIndex", i);
+            add(input, "status", in->inputAlarmStatus[i]);
+        }
+        cJSON *outputs = mw::array(root, "outputAlarmList");
+        for (int32_t o = 0; o < 2; ++o) {
+            cJSON *output = mw::append_object(outputs);
+            add(output, "outputAlarmIndex", o);
+            add(output, "status", in->outputAlarmStatus[o]);
+        }
+    });
+}
+
+int32_t get_vca_exception_alarm_status_json(const vca_all_alarm_status_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "netlostEnable", in->netlostEnable);
+        add(root, "networkLostAlarmStatus", in->networkLostAlarmStatus);
+        add(root, "ipconflictEnable", in->ipconflictEnable);
+        add(root, "ipconflictAlarmStatus", in->ipConflictAlarmStatus); // lower-case c in this document
+        add(root, "recordFailedEnable", in->recordFailedEnable);
+        add(root, "recordFailedAlarmStatus", in->recordFailedAlarmStatus);
+        add(root, "sdFullEnable", in->sdFullEnable);
+        add(root, "sdFullAlarmStatus", in->sdFullAlarmStatus);
+        add(root, "sdUninitEnable", in->sdUninitEnable);
+        add(root, "sdUninitAlarmStatus", in->sdUninitAlarmStatus);
+        add(root, "sdErrorEnable", in->sdErrorEnable);
+        add(root, "sdErrorAlarmStatus", in->sdErrorAlarmStatus);
+        add(root, "noSdEnable", in->noSdEnable);
+        add(root, "noSdAlarmStatus", in->noSdAlarmStatus);
+        add(root, "tamperEnable", in->tamperEnable);
+        add(root, "tamperAlarmStatus", in->tamperAlarmStatus);
+    });
+}

@@ -222,6 +222,132 @@ vca_all_alarm_status_record sample_all_alarm_status()
     return r;
 }
 
+// Two counting lines across the staff entrance (line 0) and the side door
+// (line 1); counters reset every night at 03:00, the entrance alarms when more
+// than 40 people are inside.
+vca_counting_record sample_counting()
+{
+    vca_counting_record r{};
+    r.showOsdEnable = 1;
+    r.osdType = 0;
+    r.osdFontSize = 2;
+    r.osdTextPosition = 1;
+    put(r.osdFontColor, "#FFFFFF");
+    r.alarmTriggerEnable = 1;
+    r.peopleCountingSens = 5;
+    r.scene = 0;
+    r.countTriggerType = 1;
+    r.allLineCapacityAlarmEnable = 1;
+    r.allLineInAlarmThresholds = 500;
+    r.allLineOutAlarmThresholds = 500;
+    r.allLineCapacityAlarmThresholds = 60;
+    r.allLineSumAlarmThresholds = 1000;
+    const char *const lines[2] = {"640;300;1280;300", "200;820;520;1040"};
+    for (int l = 0; l < 4; ++l) {
+        const bool drawn = l < 2;
+        r.lineEnable[l] = drawn ? 1 : 0;
+        r.lineCapacityAlarmEnable[l] = l == 0 ? 1 : 0;
+        r.lineInAlarmThresholds[l] = 300;
+        r.lineOutAlarmThresholds[l] = 300;
+        r.lineCapacityAlarmThresholds[l] = 40;
+        r.lineSumAlarmThresholds[l] = 600;
+        r.lineAutoResetEnable[l] = drawn ? 1 : 0;
+        r.lineAutoResetWeekday[l] = 7; // every day
+        r.lineAutoResetHour[l] = 3;
+        r.lineAutoResetMin[l] = 0;
+        r.lineAutoResetSec[l] = 0;
+        r.lineDirection[l] = l == 1 ? 1 : 0;
+        r.lineShowCountingEnable[l] = drawn ? 1 : 0;
+        if (drawn) {
+            put(r.countLine[l], lines[l]);
+            put(r.presetCountLine[l][0], lines[l]);
+            r.presetDirection[l][0] = r.lineDirection[l];
+        }
+    }
+    put(r.presetCountLine[0][1], "600;320;1240;310");
+    r.presetDirection[0][1] = 0;
+    sample_size_filter(r);
+    sample_schedule(r.schedule);
+    return r;
+}
+
+// Faces at the reception desk: best-shot capture, the monitor behind the desk
+// shielded, three capture profiles (full frame, face, face with margin).
+vca_face_detection_record sample_face_detection()
+{
+    vca_face_detection_record r{};
+    r.mosaicModeStatus = 0;
+    r.faceEnable = 1;
+    r.faceMinPixel = 64;
+    r.captureMode = 1;
+    r.snapshotInterval = 3;
+    r.poseRoll = 30;
+    r.posePitch = 30;
+    r.poseYaw = 45;
+    r.blurlimit = 60;
+    r.snapshotType = 2;
+    r.snapshotBackground = 1;
+    const int32_t quality[3] = {80, 90, 85};
+    const int32_t maxPush[3] = {1, 3, 2};
+    for (int k = 0; k < 3; ++k) {
+        r.captureQuality[k] = quality[k];
+        r.snapshotMaxPush[k] = maxPush[k];
+    }
+    r.postEnable = 1;
+    r.postType = 0;
+    r.shieldRegionEnable[0] = 1;
+    put(r.shieldPolygonX[0], "1500:1800:1800:1500:");
+    put(r.shieldPolygonY[0], "100:100:400:400:");
+    r.attributeEnable = 1;
+    r.attributeType = 3;
+    r.mosaicEnable = 0;
+    put(r.polygonX, "300:1620:1620:300:");
+    put(r.polygonY, "120:120:980:980:");
+    sample_schedule(r.schedule);
+    return r;
+}
+
+// The fence line along the yard (line 0) and the gate (line 1), the gate
+// also drawn for the PTZ preset that faces it.
+vca_line_crossing_record sample_line_crossing()
+{
+    vca_line_crossing_record r{};
+    r.lineCrossingSens = 6;
+    r.lineCrossingTracking = 1;
+    r.lineCrossingEnable[0] = 1;
+    r.lineCrossingEnable[1] = 1;
+    r.lineCrossingDetectionObject[0] = 1;
+    r.lineCrossingDetectionObject[1] = 3;
+    const int32_t fence[4] = {80, 620, 1840, 560};
+    const int32_t gate[4] = {900, 900, 1300, 1010};
+    const int32_t gatePreset[4] = {860, 880, 1260, 1000};
+    for (int i = 0; i < 4; ++i) {
+        r.lines[0].crossedLine[i] = fence[i];
+        r.lines[1].crossedLine[i] = gate[i];
+        r.lines[1].presetCrossedLine[0][i] = gatePreset[i];
+    }
+    r.lines[0].direction = 2; // both ways
+    r.lines[1].direction = 0;
+    r.lines[1].presetDirection[0] = 0;
+    sample_size_filter(r);
+    r.scene = 1;
+    sample_schedule(r.schedule);
+    return r;
+}
+
+// Parcels left at the dock door, pallets taken from the forklift lane.
+vca_left_remove_record sample_left_remove()
+{
+    vca_left_remove_record r{};
+    sample_region_rule(r);
+    r.leftEnable[0] = 1;
+    r.removeEnable[1] = 1;
+    r.leftRemoveTracking = 1;
+    r.leftRemoveSens = 5;
+    r.minTime = 60;
+    return r;
+}
+
 const CatalogEntry entries[] = {
     {"get_vca_install_mode_json", "how the analytics camera is mounted",
      [](char *dst, int32_t n) {
@@ -295,6 +421,26 @@ const CatalogEntry entries[] = {
      [](char *dst, int32_t n) {
          static const vca_all_alarm_status_record r = sample_all_alarm_status();
          return get_vca_exception_alarm_status_json(&r, dst, n);
+     }},
+    {"get_vca_counting_json", "people counting lines with thresholds, resets and presets",
+     [](char *dst, int32_t n) {
+         static const vca_counting_record r = sample_counting();
+         return get_vca_counting_json(&r, dst, n);
+     }},
+    {"get_vca_face_detection_json", "face detection, shield regions and capture settings",
+     [](char *dst, int32_t n) {
+         static const vca_face_detection_record r = sample_face_detection();
+         return get_vca_face_detection_json(&r, dst, n);
+     }},
+    {"get_vca_all_linecrossing_json", "line crossing rule over all four lines",
+     [](char *dst, int32_t n) {
+         static const vca_line_crossing_record r = sample_line_crossing();
+         return get_vca_all_linecrossing_json(&r, dst, n);
+     }},
+    {"get_vca_left_remove_json", "object left or removed rule with its regions",
+     [](char *dst, int32_t n) {
+         static const vca_left_remove_record r = sample_left_remove();
+         return get_vca_left_remove_json(&r, dst, n);
      }},
 };
 

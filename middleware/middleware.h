@@ -664,6 +664,163 @@ MW_API int32_t get_vca_all_alarm_status_json(const vca_all_alarm_status_record *
 MW_API int32_t get_vca_exception_alarm_status_json(const vca_all_alarm_status_record *in, char *dst,
                                                    int32_t dstSize);
 
+/* People counting across up to 4 counting lines (l 0..3), each drawn once more
+   for each of up to 4 PTZ presets (p 0..3). Thresholds are people counts;
+   the auto-reset fields say when a line's counters go back to 0. */
+typedef struct vca_counting_record {
+    int32_t showOsdEnable;               /* counters drawn on the video */
+    int32_t osdType;
+    int32_t osdFontSize;
+    int32_t osdTextPosition;
+    char osdFontColor[16];
+    int32_t alarmTriggerEnable;
+    int32_t peopleCountingSens;
+    int32_t scene;
+    int32_t countTriggerType;
+    int32_t allLineInAlarmEnable;        /* the totals over all lines */
+    int32_t allLineOutAlarmEnable;
+    int32_t allLineCapacityAlarmEnable;
+    int32_t allLineSumAlarmEnable;
+    int32_t allLineInAlarmThresholds;
+    int32_t allLineOutAlarmThresholds;
+    int32_t allLineCapacityAlarmThresholds;
+    int32_t allLineSumAlarmThresholds;
+    int32_t lineEnable[4];               /* per line from here on */
+    int32_t lineInAlarmEnable[4];
+    int32_t lineOutAlarmEnable[4];
+    int32_t lineCapacityAlarmEnable[4];
+    int32_t lineSumAlarmEnable[4];
+    int32_t lineInAlarmThresholds[4];
+    int32_t lineOutAlarmThresholds[4];
+    int32_t lineCapacityAlarmThresholds[4];
+    int32_t lineSumAlarmThresholds[4];
+    int32_t lineAutoResetEnable[4];
+    int32_t lineAutoResetWeekday[4];
+    int32_t lineAutoResetHour[4];
+    int32_t lineAutoResetMin[4];
+    int32_t lineAutoResetSec[4];
+    int32_t lineDirection[4];
+    int32_t presetDirection[4][4];       /* [line][preset line] */
+    int32_t lineShowCountingEnable[4];
+    char countLine[4][32];               /* the line's end points as text */
+    char presetCountLine[4][4][32];      /* [line][preset line] */
+    int32_t minX;
+    int32_t minY;
+    int32_t minWidth;
+    int32_t minHeight;
+    int32_t maxX;
+    int32_t maxY;
+    int32_t maxWidth;
+    int32_t maxHeight;
+    char schedule[7][256];
+} vca_counting_record;
+
+/* Face detection and capture. captureQuality and snapshotMaxPush are per
+   capture setting, 0..2; the shield regions (0..3) are areas where faces are
+   ignored; polygonX/polygonY is the detection area. Pose and blur limits are
+   the analytics' own values, passed through. */
+typedef struct vca_face_detection_record {
+    int32_t reserved0;                   /* not in the document */
+    int32_t mosaicModeStatus;
+    int32_t faceEnable;
+    int32_t faceMinPixel;                /* smallest face, in pixels */
+    int32_t captureMode;
+    int32_t snapshotInterval;
+    int32_t poseRoll;
+    int32_t posePitch;
+    int32_t poseYaw;
+    int32_t blurlimit;
+    int32_t snapshotType;
+    int32_t snapshotBackground;
+    int32_t captureQuality[3];
+    int32_t snapshotMaxPush[3];
+    int32_t postEnable;
+    int32_t postType;
+    int32_t reserved1[2];                /* not in the document; two words, our choice */
+    int32_t shieldRegionEnable[4];
+    char shieldPolygonX[4][64];
+    char shieldPolygonY[4][64];
+    int32_t attributeEnable;
+    int32_t attributeType;
+    int32_t mosaicEnable;
+    char polygonX[64];
+    char polygonY[64];
+    char schedule[7][256];
+} vca_face_detection_record;
+
+/* One crossing line: its two end points x1 y1 x2 y2, the same for each of 4
+   PTZ preset lines, and the crossing direction (also per preset line). */
+typedef struct vca_crossing_line_entry {
+    int32_t crossedLine[4];
+    int32_t presetCrossedLine[4][4];     /* [preset line][x1 y1 x2 y2] */
+    int32_t direction;
+    int32_t presetDirection[4];
+} vca_crossing_line_entry;
+
+/* Line crossing over up to 4 lines, 0..3. */
+typedef struct vca_line_crossing_record {
+    int32_t lineCrossingSens;
+    int32_t lineCrossingTracking;
+    int32_t lineCrossingEnable[4];
+    int32_t lineCrossingDetectionObject[4];
+    vca_crossing_line_entry lines[4];
+    int32_t minX;
+    int32_t minY;
+    int32_t minWidth;
+    int32_t minHeight;
+    int32_t maxX;
+    int32_t maxY;
+    int32_t maxWidth;
+    int32_t maxHeight;
+    int32_t scene;
+    char schedule[7][256];
+} vca_line_crossing_record;
+
+/* Object left behind or removed, on the region model; minTime is how long
+   (seconds) an object must be left or missing. The reserved words stand where
+   the other region rules keep their values; there is no detection-object
+   array in this rule. */
+typedef struct vca_left_remove_record {
+    int32_t reserved0[13];
+    int32_t leftEnable[4];               /* per region */
+    int32_t removeEnable[4];             /* per region */
+    int32_t leftRemoveTracking;
+    int32_t reserved1[14];
+    int32_t leftRemoveSens;
+    int32_t reserved2;
+    char polygonX[4][64];
+    char polygonY[4][64];
+    char presetPolygonX[4][4][64];
+    char presetPolygonY[4][4][64];
+    int32_t scene;
+    int32_t reserved3[2];
+    char schedule[7][256];
+    int32_t minTime;
+    int32_t minX;
+    int32_t minY;
+    int32_t minWidth;
+    int32_t minHeight;
+    int32_t maxX;
+    int32_t maxY;
+    int32_t maxWidth;
+    int32_t maxHeight;
+} vca_left_remove_record;
+
+/* Totals and size filter, then "crossedLine" (an array of the 4 lines, each
+   with "presetLineList" of 4) and "scheduleList". "allLineOutAlarmEnanble"
+   keeps its historic spelling. */
+MW_API int32_t get_vca_counting_json(const vca_counting_record *in, char *dst, int32_t dstSize);
+/* Settings, detection area, "shieldRegionList" (4), "captureSettingsList" (3)
+   and "scheduleList". */
+MW_API int32_t get_vca_face_detection_json(const vca_face_detection_record *in, char *dst,
+                                           int32_t dstSize);
+/* All four lines in "detectionInfoList"; end points are written as the text
+   "x1;y1;x2;y2", cut at 31 characters. */
+MW_API int32_t get_vca_all_linecrossing_json(const vca_line_crossing_record *in, char *dst,
+                                             int32_t dstSize);
+/* The region-rule shape with "leftEnable" and "removeEnable" per region. */
+MW_API int32_t get_vca_left_remove_json(const vca_left_remove_record *in, char *dst, int32_t dstSize);
+
 /* ===== end vca ===== */
 
 /* ===== lpr ===== */

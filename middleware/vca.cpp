@@ -346,3 +346,164 @@ int32_t get_vca_exception_alarm_status_json(const vca_all_alarm_status_record *i
         add(root, "tamperAlarmStatus", in->tamperAlarmStatus);
     });
 }
+
+/* ---- counting, faces, line crossing, left or removed objects ---- */
+
+namespace {
+
+/* A crossing line's end points x1 y1 x2 y2 as "x1;y1;x2;y2", in 32 bytes: a
+   longer text is cut at 31 characters. */
+struct LineText {
+    char text[32];
+};
+
+LineText line_text(const int32_t (&points)[4])
+{
+    LineText t;
+    snprintf(t.text, sizeof t.text, "%d;%d;%d;%d", static_cast<int>(points[0]), static_cast<int>(points[1]),
+             static_cast<int>(points[2]), static_cast<int>(points[3]));
+    return t;
+}
+
+} // namespace
+
+int32_t get_vca_counting_json(const vca_counting_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "peopleCountingSens", in->peopleCountingSens);
+        add(root, "scene", in->scene);
+        add(root, "showOsdEnable", in->showOsdEnable);
+        add(root, "osdType", in->osdType);
+        add(root, "osdFontSize", in->osdFontSize);
+        add(root, "osdTextPosition", in->osdTextPosition);
+        add(root, "osdFontColor", in->osdFontColor);
+        add(root, "alarmTriggerEnable", in->alarmTriggerEnable);
+        add(root, "countTriggerType", in->countTriggerType);
+        add(root, "allLineInAlarmEnable", in->allLineInAlarmEnable);
+        add(root, "allLineOutAlarmEnanble", in->allLineOutAlarmEnable); // the pages read this spelling
+        add(root, "allLineCapacityAlarmEnable", in->allLineCapacityAlarmEnable);
+        add(root, "allLineSumAlarmEnable", in->allLineSumAlarmEnable);
+        add(root, "allLineInAlarmThresholds", in->allLineInAlarmThresholds);
+        add(root, "allLineOutAlarmThresholds", in->allLineOutAlarmThresholds);
+        add(root, "allLineCapacityAlarmThresholds", in->allLineCapacityAlarmThresholds);
+        add(root, "allLineSumAlarmThresholds", in->allLineSumAlarmThresholds);
+        add_size_filter(root, in);
+
+        // An array of the counting lines, under a singular name.
+        cJSON *lines = mw::array(root, "crossedLine");
+        for (int32_t l = 0; l < 4; ++l) {
+            cJSON *line = mw::append_object(lines);
+            add(line, "lineIndex", l);
+            add(line, "lineEnable", in->lineEnable[l]);
+            add(line, "lineInAlarmEnable", in->lineInAlarmEnable[l]);
+            add(line, "lineOutAlarmEnable", in->lineOutAlarmEnable[l]);
+            add(line, "lineCapacityAlarmEnable", in->lineCapacityAlarmEnable[l]);
+            add(line, "lineSumAlarmEnable", in->lineSumAlarmEnable[l]);
+            add(line, "lineInAlarmThresholds", in->lineInAlarmThresholds[l]);
+            add(line, "lineOutAlarmThresholds", in->lineOutAlarmThresholds[l]);
+            add(line, "lineCapacityAlarmThresholds", in->lineCapacityAlarmThresholds[l]);
+            add(line, "lineSumAlarmThresholds", in->lineSumAlarmThresholds[l]);
+            add(line, "lineShowCountingEnable", in->lineShowCountingEnable[l]);
+            add(line, "lineAutoResetEnable", in->lineAutoResetEnable[l]);
+            add(line, "lineAutoResetWeekday", in->lineAutoResetWeekday[l]);
+            add(line, "lineAutoResetHour", in->lineAutoResetHour[l]);
+            add(line, "lineAutoResetMin", in->lineAutoResetMin[l]);
+            add(line, "lineAutoResetSec", in->lineAutoResetSec[l]);
+            add(line, "lineDirection", in->lineDirection[l]);
+            add(line, "countLine", in->countLine[l]);
+            cJSON *presets = mw::array(line, "presetLineList");
+            for (int32_t p = 0; p < 4; ++p) {
+                cJSON *preset = mw::append_object(presets);
+                add(preset, "presetLineIndex", p);
+                add(preset, "presetDirection", in->presetDirection[l][p]);
+                add(preset, "presetCountLine", in->presetCountLine[l][p]);
+            }
+        }
+        mw::add_schedule_list(root, in->schedule);
+    });
+}
+
+int32_t get_vca_face_detection_json(const vca_face_detection_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "mosaicModeStatus", in->mosaicModeStatus);
+        add(root, "faceEnable", in->faceEnable);
+        add(root, "faceMinPixel", in->faceMinPixel);
+        add(root, "captureMode", in->captureMode);
+        add(root, "snapshotInterval", in->snapshotInterval);
+        add(root, "poseRoll", in->poseRoll);
+        add(root, "posePitch", in->posePitch);
+        add(root, "poseYaw", in->poseYaw);
+        add(root, "blurlimit", in->blurlimit);
+        add(root, "snapshotType", in->snapshotType);
+        add(root, "snapshotBackground", in->snapshotBackground);
+        add(root, "postEnable", in->postEnable);
+        add(root, "postType", in->postType);
+        add(root, "attributeEnable", in->attributeEnable);
+        add(root, "attributeType", in->attributeType);
+        add(root, "mosaicEnable", in->mosaicEnable);
+        add(root, "polygonX", in->polygonX);
+        add(root, "polygonY", in->polygonY);
+        cJSON *shields = mw::array(root, "shieldRegionList");
+        for (int32_t s = 0; s < 4; ++s) {
+            cJSON *shield = mw::append_object(shields);
+            add(shield, "shieldIndex", s);
+            add(shield, "shieldRegionEnable", in->shieldRegionEnable[s]);
+            add(shield, "polygonX", in->shieldPolygonX[s]);
+            add(shield, "polygonY", in->shieldPolygonY[s]);
+        }
+        cJSON *captures = mw::array(root, "captureSettingsList");
+        for (int32_t k = 0; k < 3; ++k) {
+            cJSON *capture = mw::append_object(captures);
+            add(capture, "captureIndex", k);
+            add(capture, "captureQuality", in->captureQuality[k]);
+            add(capture, "snapshotMaxPush", in->snapshotMaxPush[k]);
+        }
+        mw::add_schedule_list(root, in->schedule);
+    });
+}
+
+int32_t get_vca_all_linecrossing_json(const vca_line_crossing_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "lineCrossingSens", in->lineCrossingSens);
+        add(root, "lineCrossingTracking", in->lineCrossingTracking);
+        add(root, "scene", in->scene);
+        add_size_filter(root, in);
+        cJSON *lines = mw::array(root, "detectionInfoList");
+        for (int32_t l = 0; l < 4; ++l) {
+            const vca_crossing_line_entry &entry = in->lines[l];
+            cJSON *line = mw::append_object(lines);
+            add(line, "lineIndex", l);
+            add(line, "lineCrossingEnable", in->lineCrossingEnable[l]);
+            add(line, "lineCrossingDetectionObject", in->lineCrossingDetectionObject[l]);
+            add(line, "direction", entry.direction);
+            mw::add_string(line, "crossedLine", line_text(entry.crossedLine).text);
+            cJSON *presets = mw::array(line, "presetLineList");
+            for (int32_t p = 0; p < 4; ++p) {
+                cJSON *preset = mw::append_object(presets);
+                add(preset, "presetLineIndex", p);
+                add(preset, "presetDirection", entry.presetDirection[p]);
+                mw::add_string(preset, "presetCrossedLine", line_text(entry.presetCrossedLine[p]).text);
+            }
+        }
+        mw::add_schedule_list(root, in->schedule);
+    });
+}
+
+int32_t get_vca_left_remove_json(const vca_left_remove_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "leftRemoveSens", in->leftRemoveSens);
+        add(root, "leftRemoveTracking", in->leftRemoveTracking);
+        add(root, "scene", in->scene);
+        add(root, "minTime", in->minTime);
+        add_size_filter(root, in);
+        const RegionValue perRegion[] = {
+            {"leftEnable", &in->leftEnable},
+            {"removeEnable", &in->removeEnable},
+        };
+        add_detection_info_list(root, in, perRegion);
+        mw::add_schedule_list(root, in->schedule);
+    });
+}

@@ -200,6 +200,19 @@ std::vector<RegionRuleCase> region_rule_cases()
              get_vca_loitering_json),
          concat({N("loiteringTracking", 77), N("scene", -9)}, kSizeFilter),
          {"loiteringEnable", "loiteringDetectionObject", "minLoiteringTime"}},
+        {"object left or removed",
+         renderer<vca_left_remove_record>(
+             [](vca_left_remove_record &in) {
+                 in.leftRemoveSens = -5;
+                 in.leftRemoveTracking = 77;
+                 in.minTime = 88;
+                 fill_per_region(in.leftEnable, 0);
+                 fill_per_region(in.removeEnable, 1);
+             },
+             get_vca_left_remove_json),
+         concat({N("leftRemoveSens", -5), N("leftRemoveTracking", 77), N("scene", -9), N("minTime", 88)},
+                kSizeFilter),
+         {"leftEnable", "removeEnable"}},
     };
 }
 

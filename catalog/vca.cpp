@@ -348,6 +348,96 @@ vca_left_remove_record sample_left_remove()
     return r;
 }
 
+// The shop floor heat map, the tills masked out.
+vca_heat_map_record sample_heat_map()
+{
+    vca_heat_map_record r{};
+    r.enable = 1;
+    r.sensitivity = 5;
+    r.minSize = 40;
+    r.minDwellTime = 3;
+    r.adaptability = 2;
+    put(r.mask, "0:1600:1920:1600:1920:1080:0:1080:");
+    r.supportHeatMap = 1;
+    r.supportHeatMapEnable = 1;
+    sample_schedule(r.schedule);
+    return r;
+}
+
+// Queue areas at the tills (region 0) and the fitting rooms (region 1):
+// alarm above 8 people waiting or a stay longer than ten minutes.
+vca_region_people_record sample_region_people()
+{
+    vca_region_people_record r{};
+    sample_region_rule(r);
+    r.regionPeopleCountingSens = 6;
+    r.scene = 2;
+    const int32_t enable[4] = {1, 1, 0, 0};
+    for (int g = 0; g < 4; ++g) {
+        r.regionEnable[g] = enable[g];
+        r.maxStayEnable[g] = enable[g];
+        r.minStayEnable[g] = 0;
+        r.maxStayTimeEnable[g] = g == 1 ? 1 : 0;
+        r.maxStay[g] = 8;
+        r.minStay[g] = 1;
+        r.maxStayTime[g] = 600;
+    }
+    return r;
+}
+
+// Six people tracked over the last minute, two of them through region 1.
+vca_person_point_record sample_person_points()
+{
+    vca_person_point_record r{};
+    r.personNum = 6;
+    const int32_t track[6][7] = {
+        // id, type, startX, startY, stopX, stopY, alarmRegion
+        {1041, 1, 212, 980, 640, 410, 0},   {1042, 1, 1880, 760, 1310, 700, 1},
+        {1043, 1, 560, 1060, 590, 240, 0},  {1045, 2, 1020, 1070, 1030, 300, 0},
+        {1047, 1, 1500, 600, 1720, 880, 1}, {1048, 1, 90, 400, 380, 420, 0},
+    };
+    for (int i = 0; i < 6; ++i) {
+        r.id[i] = track[i][0];
+        r.type[i] = track[i][1];
+        r.startX[i] = track[i][2];
+        r.startY[i] = track[i][3];
+        r.stopX[i] = track[i][4];
+        r.stopY[i] = track[i][5];
+        r.alarmRegion[i] = track[i][6];
+    }
+    return r;
+}
+
+// Three shoppers in the queue area (region 0), one of them waiting too long.
+vca_regional_people_data_record sample_regional_people_data()
+{
+    vca_regional_people_data_record r{};
+    r.regionsAlarmStatus = 0;
+    r.regionsStayAlarmStatus = 1;
+    r.num[0] = 3;
+    r.num[1] = 0;
+    r.peopleCount = 3;
+    const int32_t person[3][8] = {
+        // id, class, left, top, right, bottom, stayAlarmStatus, exsitStatus
+        {311, 1, 402, 218, 498, 520, 1, 1},
+        {317, 1, 560, 240, 640, 530, 0, 1},
+        {322, 1, 700, 260, 790, 560, 0, 1},
+    };
+    const int32_t stay[3] = {742, 95, 12};
+    for (int i = 0; i < 3; ++i) {
+        r.id[i] = person[i][0];
+        r.class_[i] = person[i][1];
+        r.left[i] = person[i][2];
+        r.top[i] = person[i][3];
+        r.right[i] = person[i][4];
+        r.bottom[i] = person[i][5];
+        r.stayAlarmStatus[i] = person[i][6];
+        r.exsitStatus[i] = person[i][7];
+        r.stayTime[i][0] = stay[i];
+    }
+    return r;
+}
+
 const CatalogEntry entries[] = {
     {"get_vca_install_mode_json", "how the analytics camera is mounted",
      [](char *dst, int32_t n) {
@@ -441,6 +531,74 @@ const CatalogEntry entries[] = {
      [](char *dst, int32_t n) {
          static const vca_left_remove_record r = sample_left_remove();
          return get_vca_left_remove_json(&r, dst, n);
+     }},
+    {"get_vca_heat_map_json", "heat-map settings, mask and schedule",
+     [](char *dst, int32_t n) {
+         static const vca_heat_map_record r = sample_heat_map();
+         return get_vca_heat_map_json(&r, dst, n);
+     }},
+    {"get_vca_auto_export_heat_json", "weekly automatic export of the heat map",
+     [](char *dst, int32_t n) {
+         static const vca_auto_export_heat_record r = [] {
+             vca_auto_export_heat_record e{};
+             e.enable = 1;
+             e.method = 1; // to the FTP server
+             e.weekday = 1;
+             e.hour = 6;
+             e.min = 30;
+             e.sec = 0;
+             e.timeRange = 7; // the past week
+             return e;
+         }();
+         return get_vca_auto_export_heat_json(&r, dst, n);
+     }},
+    {"get_vca_region_people_json", "regional people counting rule with stay limits",
+     [](char *dst, int32_t n) {
+         static const vca_region_people_record r = sample_region_people();
+         return get_vca_region_people_json(&r, dst, n);
+     }},
+    {"get_vca_regional_auto_export_json", "daily automatic export of the regional people report",
+     [](char *dst, int32_t n) {
+         static const vca_regional_auto_export_record r = [] {
+             vca_regional_auto_export_record e{};
+             e.enable = 1;
+             e.method = 0; // by mail
+             e.weekday = 0;
+             e.hour = 22;
+             e.minute = 5;
+             e.second = 0;
+             e.timeRange = 1; // the past day
+             e.stayType = 1;
+             e.stayLength = 300;
+             return e;
+         }();
+         return get_vca_regional_auto_export_json(&r, dst, n);
+     }},
+    {"get_vca_person_point_json", "person tracks with their start and stop points",
+     [](char *dst, int32_t n) {
+         static const vca_person_point_record r = sample_person_points();
+         return get_vca_person_point_json(&r, dst, n);
+     }},
+    {"get_vca_people_counting_data_json", "live in, out, sum and capacity counts per line",
+     [](char *dst, int32_t n) {
+         static const vca_people_counting_data_record r = [] {
+             vca_people_counting_data_record c{};
+             c.inCount[0] = 214;
+             c.outCount[0] = 198;
+             c.sumCount[0] = 412;
+             c.capacityCount[0] = 16;
+             c.inCount[1] = 37;
+             c.outCount[1] = 41;
+             c.sumCount[1] = 78;
+             c.capacityCount[1] = -4; // more left by the side door than came in
+             return c;
+         }();
+         return get_vca_people_counting_data_json(&r, dst, n);
+     }},
+    {"get_vca_regional_people_data_json", "people now in each region and how long they stay",
+     [](char *dst, int32_t n) {
+         static const vca_regional_people_data_record r = sample_regional_people_data();
+         return get_vca_regional_people_data_json(&r, dst, n);
      }},
 };
 

@@ -821,6 +821,143 @@ MW_API int32_t get_vca_all_linecrossing_json(const vca_line_crossing_record *in,
 /* The region-rule shape with "leftEnable" and "removeEnable" per region. */
 MW_API int32_t get_vca_left_remove_json(const vca_left_remove_record *in, char *dst, int32_t dstSize);
 
+/* Heat-map settings. `mask` is the masked-out area as drawn by the page. */
+typedef struct vca_heat_map_record {
+    int32_t enable;
+    int32_t sensitivity;
+    int32_t minSize;
+    int32_t minDwellTime;
+    int32_t adaptability;
+    char mask[1468];
+    int32_t supportHeatMap;              /* this camera can make heat maps */
+    int32_t supportHeatMapEnable;
+    char schedule[7][256];
+} vca_heat_map_record;
+
+/* Automatic export of the heat map: when (weekday, hour:min:sec) and over
+   which time range; method and range are codes of the page. */
+typedef struct vca_auto_export_heat_record {
+    uint8_t reserved;                    /* not in the document */
+    uint8_t enable;
+    int32_t method;
+    int32_t weekday;
+    int32_t hour;
+    int32_t min;
+    int32_t sec;
+    int32_t timeRange;
+} vca_auto_export_heat_record;
+
+/* Regional people counting on the region model: per region (0..3) an enable
+   flag and the stay limits (maxStay/minStay people, maxStayTime seconds) with
+   their switches. The reserved words are ours: four after the per-region
+   values and two after the preset polygons. */
+typedef struct vca_region_people_record {
+    int32_t regionPeopleCountingSens;
+    int32_t scene;
+    int32_t minX;
+    int32_t minY;
+    int32_t minWidth;
+    int32_t minHeight;
+    int32_t maxX;
+    int32_t maxY;
+    int32_t maxWidth;
+    int32_t maxHeight;
+    char polygonX[4][64];
+    char polygonY[4][64];
+    int32_t regionEnable[4];
+    int32_t maxStayEnable[4];
+    int32_t minStayEnable[4];
+    int32_t maxStayTimeEnable[4];
+    int32_t maxStay[4];
+    int32_t minStay[4];
+    int32_t maxStayTime[4];
+    int32_t reserved0[4];                /* not in the document */
+    char presetPolygonX[4][4][64];
+    char presetPolygonY[4][4][64];
+    int32_t reserved1[2];                /* not in the document */
+    char schedule[7][256];
+} vca_region_people_record;
+
+/* Automatic export of the regional people report, at hour:minute:second on
+   the weekday; stayType and stayLength select the stays reported. */
+typedef struct vca_regional_auto_export_record {
+    uint8_t reserved;                    /* not in the document */
+    uint8_t enable;
+    int32_t method;
+    int32_t weekday;
+    int32_t hour;
+    int32_t minute;
+    int32_t second;
+    int32_t timeRange;
+    int32_t stayType;
+    int32_t stayLength;
+} vca_regional_auto_export_record;
+
+/* Person tracks of the last interval: element i of each array belongs to
+   track i; personNum tracks are valid (the producer keeps it within 256). */
+typedef struct vca_person_point_record {
+    int32_t reserved[2];                 /* not in the document */
+    int32_t personNum;
+    int32_t id[256];
+    int32_t type[256];
+    int32_t startX[256];
+    int32_t startY[256];
+    int32_t stopX[256];
+    int32_t stopY[256];
+    int32_t alarmRegion[256];
+} vca_person_point_record;
+
+/* Live counters per counting line, 0..3. */
+typedef struct vca_people_counting_data_record {
+    int32_t inCount[4];
+    int32_t outCount[4];
+    int32_t sumCount[4];
+    int32_t capacityCount[4];
+} vca_people_counting_data_record;
+
+/* The people now in the regions: num[r] per region (0..3), then per person
+   (0..49) the box left/top/right/bottom, the stay states and stayTime[i][r],
+   the seconds person i has spent in region r. peopleCount entries are valid
+   (the producer keeps it within 50). `class` is the person's class code. */
+typedef struct vca_regional_people_data_record {
+    int32_t regionsAlarmStatus;
+    int32_t regionsStayAlarmStatus;
+    int32_t num[4];
+    int32_t id[50];
+    int32_t MW_CLASS_MEMBER[50];
+    int32_t left[50];
+    int32_t top[50];
+    int32_t right[50];
+    int32_t bottom[50];
+    int32_t stayAlarmStatus[50];
+    int32_t exsitStatus[50];
+    int32_t stayTime[50][4];
+    int32_t peopleCount;
+} vca_regional_people_data_record;
+
+/* Settings, "mask", support flags and "scheduleList". */
+MW_API int32_t get_vca_heat_map_json(const vca_heat_map_record *in, char *dst, int32_t dstSize);
+/* "enable", the time, "timeRange", and "method" last. */
+MW_API int32_t get_vca_auto_export_heat_json(const vca_auto_export_heat_record *in, char *dst,
+                                             int32_t dstSize);
+/* Sensitivity, scene, size filter, "detectionInfoList" (4 regions with their
+   stay limits and preset polygons) and "scheduleList". */
+MW_API int32_t get_vca_region_people_json(const vca_region_people_record *in, char *dst, int32_t dstSize);
+/* The export time as one text "hh:mm:ss" ("%02d" each, signed). */
+MW_API int32_t get_vca_regional_auto_export_json(const vca_regional_auto_export_record *in, char *dst,
+                                                 int32_t dstSize);
+/* "personNum" and "personList" with the first personNum tracks (none when it
+   is 0 or negative). */
+MW_API int32_t get_vca_person_point_json(const vca_person_point_record *in, char *dst, int32_t dstSize);
+/* "peopleList": the counters of the 4 lines. */
+MW_API int32_t get_vca_people_counting_data_json(const vca_people_counting_data_record *in, char *dst,
+                                                 int32_t dstSize);
+/* Region states, "peopleNumList" (4), then "peopleDataInfo" with the first
+   peopleCount people (none when 0 or negative), each with its 4 stay times.
+   "exsitStatus" keeps its historic spelling. */
+MW_API int32_t get_vca_regional_people_data_json(const vca_regional_people_data_record *in, char *dst,
+                                                 int32_t dstSize);
+
 /* ===== end vca ===== */
 
 /* ===== lpr ===== */

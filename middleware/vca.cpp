@@ -507,3 +507,137 @@ int32_t get_vca_left_remove_json(const vca_left_remove_record *in, char *dst, in
         mw::add_schedule_list(root, in->schedule);
     });
 }
+
+/* ---- heat maps and people data ---- */
+
+int32_t get_vca_heat_map_json(const vca_heat_map_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "enable", in->enable);
+        add(root, "sensitivity", in->sensitivity);
+        add(root, "minSize", in->minSize);
+        add(root, "minDwellTime", in->minDwellTime);
+        add(root, "adaptability", in->adaptability);
+        add(root, "mask", in->mask);
+        add(root, "supportHeatMap", in->supportHeatMap);
+        add(root, "supportHeatMapEnable", in->supportHeatMapEnable);
+        mw::add_schedule_list(root, in->schedule);
+    });
+}
+
+int32_t get_vca_auto_export_heat_json(const vca_auto_export_heat_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "enable", in->enable);
+        add(root, "weekday", in->weekday);
+        add(root, "hour", in->hour);
+        add(root, "min", in->min);
+        add(root, "sec", in->sec);
+        add(root, "timeRange", in->timeRange);
+        add(root, "method", in->method); // last, though stored first: the page reads it so
+    });
+}
+
+int32_t get_vca_region_people_json(const vca_region_people_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "regionPeopleCountingSens", in->regionPeopleCountingSens);
+        add(root, "scene", in->scene);
+        add_size_filter(root, in);
+        const RegionValue perRegion[] = {
+            {"regionEnable", &in->regionEnable},
+            {"maxStayEnable", &in->maxStayEnable},
+            {"minStayEnable", &in->minStayEnable},
+            {"maxStayTimeEnable", &in->maxStayTimeEnable},
+            {"maxStay", &in->maxStay},
+            {"minStay", &in->minStay},
+            {"maxStayTime", &in->maxStayTime},
+        };
+        add_detection_info_list(root, in, perRegion);
+        mw::add_schedule_list(root, in->schedule);
+    });
+}
+
+int32_t get_vca_regional_auto_export_json(const vca_regional_auto_export_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "enable", in->enable);
+        add(root, "method", in->method);
+        add(root, "weekday", in->weekday);
+        char time[32];
+        snprintf(time, sizeof time, "%02d:%02d:%02d", static_cast<int>(in->hour), static_cast<int>(in->minute),
+                 static_cast<int>(in->second));
+        mw::add_string(root, "time", time);
+        add(root, "timeRange", in->timeRange);
+        add(root, "stayType", in->stayType);
+        add(root, "stayLength", in->stayLength);
+    });
+}
+
+int32_t get_vca_person_point_json(const vca_person_point_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "personNum", in->personNum);
+        cJSON *people = mw::array(root, "personList");
+        // personNum is the producer's count of valid tracks, kept within the
+        // arrays by the producer; 0 or below gives an empty list.
+        for (int32_t i = 0; i < in->personNum; ++i) {
+            cJSON *person = mw::append_object(people);
+            add(person, "id", in->id[i]);
+            add(person, "type", in->type[i]);
+            add(person, "startX", in->startX[i]);
+            add(person, "startY", in->startY[i]);
+            add(person, "stopX", in->stopX[i]);
+            add(person, "stopY", in->stopY[i]);
+            add(person, "alarmRegion", in->alarmRegion[i]);
+        }
+    });
+}
+
+int32_t get_vca_people_counting_data_json(const vca_people_counting_data_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        cJSON *lines = mw::array(root, "peopleList");
+        for (int32_t l = 0; l < 4; ++l) {
+            cJSON *line = mw::append_object(lines);
+            add(line, "index", l);
+            add(line, "inCount", in->inCount[l]);
+            add(line, "outCount", in->outCount[l]);
+            add(line, "sumCount", in->sumCount[l]);
+            add(line, "capacityCount", in->capacityCount[l]);
+        }
+    });
+}
+
+int32_t get_vca_regional_people_data_json(const vca_regional_people_data_record *in, char *dst, int32_t dstSize)
+{
+    return mw::document(dst, dstSize, [in](cJSON *root) {
+        add(root, "regionsAlarmStatus", in->regionsAlarmStatus);
+        add(root, "regionsStayAlarmStatus", in->regionsStayAlarmStatus);
+        cJSON *regions = mw::array(root, "peopleNumList");
+        for (int32_t r = 0; r < 4; ++r) {
+            cJSON *region = mw::append_object(regions);
+            add(region, "region", r);
+            add(region, "num", in->num[r]);
+        }
+        cJSON *people = mw::array(root, "peopleDataInfo");
+        // peopleCount is the producer's count of valid entries, kept within
+        // the arrays by the producer; 0 or below gives an empty list.
+        for (int32_t i = 0; i < in->peopleCount; ++i) {
+            cJSON *person = mw::append_object(people);
+            add(person, "id", in->id[i]);
+            add(person, "class", in->class_[i]);
+            add(person, "left", in->left[i]);
+            add(person, "top", in->top[i]);
+            add(person, "right", in->right[i]);
+            add(person, "bottom", in->bottom[i]);
+            add(person, "stayAlarmStatus", in->stayAlarmStatus[i]);
+            add(person, "exsitStatus", in->exsitStatus[i]); // the pages read this spelling
+            cJSON *stays = mw::array(person, "peopleStayList");
+            for (int32_t r = 0; r < 4; ++r) {
+                cJSON *stay = mw::append_object(stays);
+                add(stay, "stayTime", in->stayTime[i][r]); // no index key: the position is the region
+            }
+        }
+    });
+}

@@ -80,7 +80,11 @@ const std::vector<test::Expected> kSizeFilter = {
 const int32_t kFirst[4] = {11, 0, 13, -14};
 const int32_t kSecond[4] = {21, 22, 23, 24};
 const int32_t kThird[4] = {31, 32, 33, 34};
-const int32_t *const kPerRegion[3] = {kFirst, kSecond, kThird};
+const int32_t kFourth[4] = {41, 42, 43, 44};
+const int32_t kFifth[4] = {51, 52, 53, 54};
+const int32_t kSixth[4] = {61, 62, 63, 64};
+const int32_t kSeventh[4] = {71, 72, 73, 74};
+const int32_t *const kPerRegion[7] = {kFirst, kSecond, kThird, kFourth, kFifth, kSixth, kSeventh};
 
 void fill_per_region(int32_t (&a)[4], int k)
 {
@@ -213,6 +217,22 @@ std::vector<RegionRuleCase> region_rule_cases()
          concat({N("leftRemoveSens", -5), N("leftRemoveTracking", 77), N("scene", -9), N("minTime", 88)},
                 kSizeFilter),
          {"leftEnable", "removeEnable"}},
+        {"regional people",
+         renderer<vca_region_people_record>(
+             [](vca_region_people_record &in) {
+                 in.regionPeopleCountingSens = -5;
+                 fill_per_region(in.regionEnable, 0);
+                 fill_per_region(in.maxStayEnable, 1);
+                 fill_per_region(in.minStayEnable, 2);
+                 fill_per_region(in.maxStayTimeEnable, 3);
+                 fill_per_region(in.maxStay, 4);
+                 fill_per_region(in.minStay, 5);
+                 fill_per_region(in.maxStayTime, 6);
+             },
+             get_vca_region_people_json),
+         concat({N("regionPeopleCountingSens", -5), N("scene", -9)}, kSizeFilter),
+         {"regionEnable", "maxStayEnable", "minStayEnable", "maxStayTimeEnable", "maxStay", "minStay",
+          "maxStayTime"}},
     };
 }
 

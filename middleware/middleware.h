@@ -362,9 +362,10 @@ MW_API int32_t get_system_online_heart_json(const system_online_heart_record *in
 /* ===== vca ===== */
 
 /*
- * The analytics rules. Every number is a signed 32-bit value; every text is
- * copied into the document as stored (polygon and schedule syntax belong to
- * the web pages, the library neither parses nor checks them).
+ * The analytics rules. Every number is a signed 32-bit value unless its field
+ * says otherwise; every text is copied into the document as stored (polygon
+ * and schedule syntax belong to the web pages, the library neither parses nor
+ * checks them).
  *
  * The region model shared by region entrance, region exit, advanced motion,
  * loitering, object left/removed and regional people counting: 4 detection
@@ -376,10 +377,12 @@ MW_API int32_t get_system_online_heart_json(const system_online_heart_record *in
  * the smallest and the largest box of an object that may trigger the rule;
  * `schedule[d]` is the day's arming text, d 0..6.
  *
- * Members named reserved... are not in any document. Their number is ours:
- * the rules keep their regions, polygons and schedules at fixed places and the
- * reserved words fill the gaps, so region exit stands exactly eleven words
- * behind region entrance from its enable flags on.
+ * Members named reserved... are not in any document. Where their number was
+ * ours to choose, region entrance and exit keep four words after the
+ * detection objects and two after `scene`, and the advanced motion and
+ * loitering records fill their gaps so that their polygons stand where region
+ * exit keeps them. Region exit stands exactly eleven words behind region
+ * entrance from its enable flags on.
  */
 
 /* The installation mode of the analytics (ceiling, wall and the like). */
@@ -777,9 +780,9 @@ typedef struct vca_line_crossing_record {
 } vca_line_crossing_record;
 
 /* Object left behind or removed, on the region model; minTime is how long
-   (seconds) an object must be left or missing. The reserved words stand where
-   the other region rules keep their values; there is no detection-object
-   array in this rule. */
+   (seconds) an object must be left or missing. There is no detection-object
+   array in this rule. The counts of reserved2 (one word) and reserved3 (two,
+   as in the other region rules) are our choice. */
 typedef struct vca_left_remove_record {
     int32_t reserved0[13];
     int32_t leftEnable[4];               /* per region */

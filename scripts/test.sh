@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
-# The whole test suite: a plain build and a sanitizer build (ASan + UBSan),
-# each built and run through CTest. Exits non-zero when any test fails.
+# The whole test suite: a plain build, a sanitizer build (ASan + UBSan) and a
+# 64-bit Arm build run under qemu-user, each built and run through CTest.
+# Installs what is missing first. Exits non-zero when any test fails.
+# MW_SKIP_ARM64=1 leaves out the Arm build (a quicker local run).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/setup.sh
@@ -15,3 +17,7 @@ bash scripts/build.sh build-sanitize -DMW_TESTS=ON -DMW_SANITIZE=ON
 echo "== tests (sanitizers)"
 ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     ctest --test-dir build-sanitize --output-on-failure -j"$(nproc)"
+
+if [ "${MW_SKIP_ARM64:-0}" != 1 ]; then
+    bash scripts/test-arm64.sh
+fi

@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# The whole test suite built for 64-bit Arm (aarch64-linux-gnu) with Debian's
+# cross compiler and run under qemu-user. Installs what is missing first.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash scripts/setup-arm64.sh
+
+echo "== build (aarch64)"
+bash scripts/build.sh build-arm64 -DMW_TESTS=ON -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/aarch64-linux-gnu.cmake"
+file build-arm64/libmiddleware.so.1.0.0 | sed 's/, BuildID.*//'
+echo "== tests (aarch64 under qemu)"
+ctest --test-dir build-arm64 --output-on-failure -j"$(nproc)"

@@ -141,22 +141,34 @@ char *getJsonBuff(int32_t fd, int32_t length)
 
 /* ---- node building ---- */
 
+namespace {
+
+/* Hangs a new node under key. Should it not attach (no memory left for the
+   key), the node is released instead of being lost, and the caller's later
+   additions to the NULL child are no-ops. */
+int32_t attach(cJSON *parent, cJSON **outChild, const char *key, cJSON *node)
+{
+    *outChild = node;
+    if (node == nullptr)
+        return -1;
+    if (!cJSON_AddItemToObject(parent, key, node)) {
+        cJSON_Delete(node);
+        *outChild = nullptr;
+        return -1;
+    }
+    return 1;
+}
+
+} // namespace
+
 int32_t json_set_element_struct(cJSON *parent, cJSON **outChild, const char *key)
 {
-    *outChild = cJSON_CreateObject();
-    if (*outChild == nullptr)
-        return -1;
-    cJSON_AddItemToObject(parent, key, *outChild);
-    return 1;
+    return attach(parent, outChild, key, cJSON_CreateObject());
 }
 
 int32_t json_set_array_struct(cJSON *parent, cJSON **outArray, const char *key)
 {
-    *outArray = cJSON_CreateArray();
-    if (*outArray == nullptr)
-        return -1;
-    cJSON_AddItemToObject(parent, key, *outArray);
-    return 1;
+    return attach(parent, outArray, key, cJSON_CreateArray());
 }
 
 /* ---- request reading ---- */

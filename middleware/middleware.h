@@ -75,7 +75,10 @@ MW_API char *getJsonBuff(int32_t fd, int32_t length);
 
 /* Creates an object (array) and stores it in *outChild (*outArray) at once,
    NULL included; when it exists, hangs it under `key` in `parent` and returns
-   1, else returns -1. The arguments are not tested. */
+   1, else returns -1. Should it not attach (memory ran out for the key, or a
+   NULL parent or key), it is released, *outChild becomes NULL and the result
+   is -1: nothing is left behind that the tree does not own. The arguments are
+   otherwise not tested. */
 MW_API int32_t json_set_element_struct(cJSON *parent, cJSON **outChild, const char *key);
 MW_API int32_t json_set_array_struct(cJSON *parent, cJSON **outArray, const char *key);
 

@@ -175,4 +175,16 @@ TEST(NodeBuilding, ChildHangsUnderItsKeyInOrder)
     cJSON_Delete(root);
 }
 
+TEST(NodeBuilding, ANodeThatCannotAttachIsReleased)
+{
+    // No parent to own it: nothing may be left behind (the sanitizer build
+    // reports the leak otherwise), and the caller gets a NULL child.
+    cJSON *child = reinterpret_cast<cJSON *>(&child);
+    EXPECT_EQ(json_set_element_struct(nullptr, &child, "orphan"), -1);
+    EXPECT_EQ(child, nullptr);
+    child = reinterpret_cast<cJSON *>(&child);
+    EXPECT_EQ(json_set_array_struct(nullptr, &child, "orphan"), -1);
+    EXPECT_EQ(child, nullptr);
+}
+
 } // namespace

@@ -51,15 +51,9 @@ void add_task_list(cJSON *root, const char *listKey, const char *indexKey, const
 
 /* A shutter or exposure time as the pages show it: two decimals, in a
    32-byte text. */
-struct Decimal {
-    char text[32];
-};
-
-Decimal two_decimals(double value)
+mw::Text<32> two_decimals(double value)
 {
-    Decimal d;
-    snprintf(d.text, sizeof d.text, "%0.2f", value);
-    return d;
+    return mw::Text<32>("%0.2f", value);
 }
 
 /* A raw 0..255 level as a percentage, rounded half up. */
@@ -229,14 +223,14 @@ int32_t get_camera_sensor_image_json(const camera_sensor_image_record *in, char 
             add(sensor, "strobelightNight", s.strobelightNight[0]);
             for (int32_t m = 0; m < 3; ++m) {
                 cJSON *mode = mw::object(sensor, kImageModeNames[m]);
-                mw::add_string(mode, "maxshutterDay", two_decimals(s.maxshutterDay[m]).text);
-                mw::add_string(mode, "maxshutterNight", two_decimals(s.maxshutterNight[m]).text);
+                mw::add_string(mode, "maxshutterDay", two_decimals(s.maxshutterDay[m]));
+                mw::add_string(mode, "maxshutterNight", two_decimals(s.maxshutterNight[m]));
                 add(mode, "limitGainlevelDay", s.limitGainlevelDay[m]);
                 add(mode, "limitGainlevelNight", s.limitGainlevelNight[m]);
                 add(mode, "targetBrightnessDay", s.targetBrightnessDay[m]);
                 add(mode, "targetBrightnessNight", s.targetBrightnessNight[m]);
-                mw::add_string(mode, "manualExposetimeDay", two_decimals(s.manualExposetimeDay[m]).text);
-                mw::add_string(mode, "manualExposetimeNight", two_decimals(s.manualExposetimeNight[m]).text);
+                mw::add_string(mode, "manualExposetimeDay", two_decimals(s.manualExposetimeDay[m]));
+                mw::add_string(mode, "manualExposetimeNight", two_decimals(s.manualExposetimeNight[m]));
                 add(mode, "manualGainlevelDay", s.manualGainlevelDay[m]);
                 add(mode, "manualGainlevelNight", s.manualGainlevelNight[m]);
                 add(mode, "brightness", percent(s.brightness[m]));
@@ -475,7 +469,7 @@ int32_t get_camera_fish_presets_json(const camera_fish_presets_record *in, char 
         for (const ptz_preset_entry &p : in->entries) {
             if (p.id == 0)
                 continue;
-            const mw::Key<128> value("%d:%lf:%lf:%.*s", p.leadingNumber, p.firstCoordinate, p.secondCoordinate,
+            const mw::Text<128> value("%d:%lf:%lf:%.*s", p.leadingNumber, p.firstCoordinate, p.secondCoordinate,
                                      static_cast<int>(sizeof p.name), p.name);
             mw::add_string(root, mw::Key<32>("preset_%d", p.id), value);
         }

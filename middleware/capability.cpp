@@ -246,7 +246,7 @@ int32_t get_cap_general_video_json(cap_general_video_record *in, int32_t count, 
     return mw::document(dst, dstSize, [in, count](cJSON *root) {
         render_entries(root, in->entries, mw::bounded_count(count, kVideoEntries), kShortLabel);
         add(root, "streamCount", in->streamCount);
-        const mw::Key<32> gopRange("%d~%d", in->gopMin, in->gopMax); // the same range for every stream
+        const mw::Text<32> gopRange("%d~%d", in->gopMin, in->gopMax); // the same range for every stream
         const int32_t streams = mw::bounded_count(in->streamCount, mw::kStreamNameCount);
         for (int32_t s = 0; s < streams; ++s) {
             if (in->streamEnable[s] == 0)

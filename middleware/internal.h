@@ -123,6 +123,11 @@ private:
     char text_[N];
 };
 
+/* A value text formatted the same way, e.g. Text<32>("%0.2f", pan): the
+   documents' formatted texts have fixed buffer sizes too. */
+template <size_t N>
+using Text = Key<N>;
+
 void format_into(char *out, size_t size, const char *format, va_list args);
 
 template <size_t N>

@@ -143,7 +143,7 @@ int32_t get_iot_devices_management_json(const iot_devices_management_record *in,
             add(entry, "deviceType", device.deviceType);
             add(entry, "osdFontSize", device.osdFontSize);
             mw::add_string(entry, "osdFontColor",
-                           mw::Key<32>("%d:%d:%d", device.osdFontColor[0], device.osdFontColor[1],
+                           mw::Text<32>("%d:%d:%d", device.osdFontColor[0], device.osdFontColor[1],
                                        device.osdFontColor[2]));
             add_sensor_info(mw::object(entry, "sensorInfo"), device);
         }

@@ -302,7 +302,7 @@ int32_t get_network_sip_alarm_phone_list_json(const network_sip_alarm_phone_list
             // Start and end of the daily window as HHMMHHMM; a value above 99
             // widens its field rather than being cut.
             mw::add_string(item, "phoneDuration",
-                           mw::Key<32>("%02d%02d%02d%02d", phone.durationStartHour, phone.durationStartMinute,
+                           mw::Text<32>("%02d%02d%02d%02d", phone.durationStartHour, phone.durationStartMinute,
                                        phone.durationEndHour, phone.durationEndMinute));
             add(item, "phonePort", phone.phonePort);
         }

@@ -9,11 +9,6 @@ using mw::add;
 
 namespace {
 
-/* A value text formatted into a buffer of N bytes and cut there, as the
-   unit's status texts have always been. */
-template <size_t N>
-using Text = mw::Key<N>;
-
 /* A list of {"index": i, valueKey: values[i]} for i from 0, every slot. */
 void add_indexed_list(cJSON *root, const char *listKey, const char *valueKey, const int32_t *values,
                       int32_t count)
@@ -52,7 +47,7 @@ int32_t get_ptz_status_json(const ptz_status_record *in, char *dst, int32_t dstS
     return mw::document(dst, dstSize, [in](cJSON *root) {
         // The web page shows the text as it stands; the degree sign is an
         // HTML entity on purpose.
-        mw::add_string(root, "temperature", Text<128>("%02f&#176;C", in->temperature));
+        mw::add_string(root, "temperature", mw::Text<128>("%02f&#176;C", in->temperature));
         add(root, "heater", in->heater);
         add(root, "fan", in->fan);
     });
@@ -68,7 +63,7 @@ int32_t get_ptz_presets_json(const ptz_presets_record *in, char *dst, int32_t ds
             cJSON *item = mw::append_object(list);
             add(item, "id", preset.id);
             mw::add_string(item, "preset",
-                           Text<128>("%d:%lf:%lf:%.*s", preset.leadingNumber,
+                           mw::Text<128>("%d:%lf:%lf:%.*s", preset.leadingNumber,
                                      preset.firstCoordinate, preset.secondCoordinate, kPresetNameWidth,
                                      preset.name));
         }
@@ -227,9 +222,9 @@ int32_t get_ptz_control_json(const ptz_control_record *in, char *dst, int32_t ds
                 add(stop, "ptzTourPresetTime", tour->points[p].ptzTourPresetTime);
             }
         } else if (in->position != nullptr) {
-            mw::add_string(root, "ptzPanPos", Text<32>("%0.2f", in->position[0]));
-            mw::add_string(root, "ptzTiltPos", Text<32>("%0.2f", in->position[1]));
-            mw::add_string(root, "ptzZoomPos", Text<32>("%0.2f", in->position[2]));
+            mw::add_string(root, "ptzPanPos", mw::Text<32>("%0.2f", in->position[0]));
+            mw::add_string(root, "ptzTiltPos", mw::Text<32>("%0.2f", in->position[1]));
+            mw::add_string(root, "ptzZoomPos", mw::Text<32>("%0.2f", in->position[2]));
         } else if (in->threeDPositionEnable != nullptr) {
             add(root, "ptz3dPositionEnable", *in->threeDPositionEnable);
         } else if (in->dehumidifyEnable != nullptr) {

@@ -353,16 +353,10 @@ namespace {
 
 /* A crossing line's end points x1 y1 x2 y2 as "x1;y1;x2;y2", in 32 bytes: a
    longer text is cut at 31 characters. */
-struct LineText {
-    char text[32];
-};
-
-LineText line_text(const int32_t (&points)[4])
+mw::Text<32> line_text(const int32_t (&points)[4])
 {
-    LineText t;
-    snprintf(t.text, sizeof t.text, "%d;%d;%d;%d", static_cast<int>(points[0]), static_cast<int>(points[1]),
-             static_cast<int>(points[2]), static_cast<int>(points[3]));
-    return t;
+    return mw::Text<32>("%d;%d;%d;%d", static_cast<int>(points[0]), static_cast<int>(points[1]),
+                        static_cast<int>(points[2]), static_cast<int>(points[3]));
 }
 
 } // namespace
@@ -478,13 +472,13 @@ int32_t get_vca_all_linecrossing_json(const vca_line_crossing_record *in, char *
             add(line, "lineCrossingEnable", in->lineCrossingEnable[l]);
             add(line, "lineCrossingDetectionObject", in->lineCrossingDetectionObject[l]);
             add(line, "direction", entry.direction);
-            mw::add_string(line, "crossedLine", line_text(entry.crossedLine).text);
+            mw::add_string(line, "crossedLine", line_text(entry.crossedLine));
             cJSON *presets = mw::array(line, "presetLineList");
             for (int32_t p = 0; p < 4; ++p) {
                 cJSON *preset = mw::append_object(presets);
                 add(preset, "presetLineIndex", p);
                 add(preset, "presetDirection", entry.presetDirection[p]);
-                mw::add_string(preset, "presetCrossedLine", line_text(entry.presetCrossedLine[p]).text);
+                mw::add_string(preset, "presetCrossedLine", line_text(entry.presetCrossedLine[p]));
             }
         }
         mw::add_schedule_list(root, in->schedule);
@@ -564,10 +558,8 @@ int32_t get_vca_regional_auto_export_json(const vca_regional_auto_export_record 
         add(root, "enable", in->enable);
         add(root, "method", in->method);
         add(root, "weekday", in->weekday);
-        char time[32];
-        snprintf(time, sizeof time, "%02d:%02d:%02d", static_cast<int>(in->hour), static_cast<int>(in->minute),
-                 static_cast<int>(in->second));
-        mw::add_string(root, "time", time);
+        mw::add_string(root, "time", mw::Text<32>("%02d:%02d:%02d", static_cast<int>(in->hour),
+                                                  static_cast<int>(in->minute), static_cast<int>(in->second)));
         add(root, "timeRange", in->timeRange);
         add(root, "stayType", in->stayType);
         add(root, "stayLength", in->stayLength);

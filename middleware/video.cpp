@@ -213,7 +213,7 @@ int32_t get_dehumidifying_info_json(const dehumidifying_info_record *info, const
     return mw::document(dst, dstSize, [info, status](cJSON *root) {
         add(root, "fanWorkingMode", info->fanWorkingMode);
         // Plain degrees with two decimals, no unit.
-        mw::add_string(root, "temperature", mw::Key<128>("%.2f", status->temperature));
+        mw::add_string(root, "temperature", mw::Text<128>("%.2f", status->temperature));
         add(root, "fan", status->fan);
     });
 }

@@ -59,6 +59,18 @@ std::vector<const CatalogEntry *> catalog_entries();
 // The entry rendered by `name`, or nullptr.
 const CatalogEntry *catalog_find(const char *name);
 
+// A sample record too large to copy or to build on the stack (the alarm
+// action records hold 48 event types, the audio one 48 x 7 schedule texts):
+// `Fill` fills it in place, once, in static storage.
+template <typename Record, void (*Fill)(Record &)>
+const Record &sample_in_place()
+{
+    static Record r{};
+    static const bool filled = (Fill(r), true);
+    (void)filled;
+    return r;
+}
+
 // Writes `text` into a record's char array, cut to fit with its NUL.
 template <size_t N>
 inline void put(char (&field)[N], const char *text)

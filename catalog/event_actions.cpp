@@ -2,18 +2,6 @@
 
 namespace {
 
-// The action records hold 48 event types each (the audio one 48 x 7 schedule
-// texts): every sample is filled in place, once, in static storage, and
-// never copied.
-template <typename Record, void (*Fill)(Record &)>
-const Record &sample()
-{
-    static Record r{};
-    static const bool filled = (Fill(r), true);
-    (void)filled;
-    return r;
-}
-
 // The event types this camera reacts to in its samples: motion, the alarm
 // input, tampering, intrusion, line crossing and the black-listed plate.
 bool armed(int32_t type)
@@ -160,39 +148,39 @@ void fill_event_call(event_event_call_record &r)
 
 const CatalogEntry entries[] = {
     {"get_event_notify_json", "HTTP notification targets of every alarm event type",
-     [](char *dst, int32_t n) { return get_event_notify_json(&sample<event_notify_record, fill_notify>(), dst, n); }},
+     [](char *dst, int32_t n) { return get_event_notify_json(&sample_in_place<event_notify_record, fill_notify>(), dst, n); }},
     {"get_event_record_json", "recording on every alarm event type",
-     [](char *dst, int32_t n) { return get_event_record_json(&sample<event_record_record, fill_record>(), dst, n); }},
+     [](char *dst, int32_t n) { return get_event_record_json(&sample_in_place<event_record_record, fill_record>(), dst, n); }},
     {"get_event_snop_json", "snapshots on motion, with the snapshot type",
-     [](char *dst, int32_t n) { return get_event_snop_json(&sample<event_snop_record, fill_snop>(), dst, n); }},
+     [](char *dst, int32_t n) { return get_event_snop_json(&sample_in_place<event_snop_record, fill_snop>(), dst, n); }},
     {"get_event_extern_output_json", "alarm output switched on every alarm event type",
      [](char *dst, int32_t n) {
-         return get_event_extern_output_json(&sample<event_extern_output_record, fill_extern_output>(), dst, n);
+         return get_event_extern_output_json(&sample_in_place<event_extern_output_record, fill_extern_output>(), dst, n);
      }},
     {"get_event_play_audio_json", "audio file played on every alarm event type, with its week",
      [](char *dst, int32_t n) {
-         return get_event_play_audio_json(&sample<event_play_audio_record, fill_play_audio>(), dst, n);
+         return get_event_play_audio_json(&sample_in_place<event_play_audio_record, fill_play_audio>(), dst, n);
      }},
     {"get_event_alarm_sip_phone_json", "SIP phone rung on every alarm event type",
      [](char *dst, int32_t n) {
-         return get_event_alarm_sip_phone_json(&sample<event_alarm_sip_phone_record, fill_alarm_sip_phone>(), dst,
+         return get_event_alarm_sip_phone_json(&sample_in_place<event_alarm_sip_phone_record, fill_alarm_sip_phone>(), dst,
                                                n);
      }},
     {"get_event_white_led_json", "white LED lit on every alarm event type",
      [](char *dst, int32_t n) {
-         return get_event_white_led_json(&sample<event_white_led_record, fill_white_led>(), dst, n);
+         return get_event_white_led_json(&sample_in_place<event_white_led_record, fill_white_led>(), dst, n);
      }},
     {"get_event_ptz_motion_json", "PTZ zoom and return on every alarm event type",
      [](char *dst, int32_t n) {
-         return get_event_ptz_motion_json(&sample<event_ptz_motion_record, fill_ptz_motion>(), dst, n);
+         return get_event_ptz_motion_json(&sample_in_place<event_ptz_motion_record, fill_ptz_motion>(), dst, n);
      }},
     {"get_event_osd_blink_json", "on-screen display blinking on every alarm event type",
      [](char *dst, int32_t n) {
-         return get_event_osd_blink_json(&sample<event_osd_blink_record, fill_osd_blink>(), dst, n);
+         return get_event_osd_blink_json(&sample_in_place<event_osd_blink_record, fill_osd_blink>(), dst, n);
      }},
     {"get_event_event_call_json", "PTZ preset, patrol or pattern called on every alarm event type",
      [](char *dst, int32_t n) {
-         return get_event_event_call_json(&sample<event_event_call_record, fill_event_call>(), dst, n);
+         return get_event_event_call_json(&sample_in_place<event_event_call_record, fill_event_call>(), dst, n);
      }},
 };
 

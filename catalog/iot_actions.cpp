@@ -3,18 +3,8 @@
 namespace {
 
 // The action records are the alarm-action records of the event pages, with
-// the four IoT rules in elements 0..3. They are large (the audio one holds
-// 48 x 7 schedule texts): each sample is filled in place, once, in static
-// storage, and never copied. The event-type selector is left at "all"; these
-// documents do not read it.
-template <typename Record, void (*Fill)(Record &)>
-const Record &sample()
-{
-    static Record r{};
-    static const bool filled = (Fill(r), true);
-    (void)filled;
-    return r;
-}
+// the four IoT rules in elements 0..3. The event-type selector is left at
+// "all"; these documents do not read it.
 
 // Rule 0: server-room climate, rule 1: loading-bay door; rules 2 and 3 unused.
 bool rule_in_use(int32_t rule) { return rule < 2; }
@@ -100,27 +90,27 @@ void fill_osd_blink(event_osd_blink_record &r)
 
 const CatalogEntry entries[] = {
     {"get_event_iot_record_json", "recording on each IoT alarm rule",
-     [](char *dst, int32_t n) { return get_event_iot_record_json(&sample<event_record_record, fill_record>(), dst, n); }},
+     [](char *dst, int32_t n) { return get_event_iot_record_json(&sample_in_place<event_record_record, fill_record>(), dst, n); }},
     {"get_event_iot_snap_json", "snapshots on each IoT alarm rule",
-     [](char *dst, int32_t n) { return get_event_iot_snap_json(&sample<event_snop_record, fill_snap>(), dst, n); }},
+     [](char *dst, int32_t n) { return get_event_iot_snap_json(&sample_in_place<event_snop_record, fill_snap>(), dst, n); }},
     {"get_event_extern_iot_output_json", "alarm output switched on each IoT alarm rule",
      [](char *dst, int32_t n) {
-         return get_event_extern_iot_output_json(&sample<event_extern_output_record, fill_output>(), dst, n);
+         return get_event_extern_iot_output_json(&sample_in_place<event_extern_output_record, fill_output>(), dst, n);
      }},
     {"get_event_iot_play_audio_json", "audio file played on each IoT alarm rule, with its week",
      [](char *dst, int32_t n) {
-         return get_event_iot_play_audio_json(&sample<event_play_audio_record, fill_play_audio>(), dst, n);
+         return get_event_iot_play_audio_json(&sample_in_place<event_play_audio_record, fill_play_audio>(), dst, n);
      }},
     {"get_event_iot_alarm_sip_phone_json", "SIP phone rung on each IoT alarm rule",
      [](char *dst, int32_t n) {
-         return get_event_iot_alarm_sip_phone_json(&sample<event_alarm_sip_phone_record, fill_sip_phone>(), dst,
+         return get_event_iot_alarm_sip_phone_json(&sample_in_place<event_alarm_sip_phone_record, fill_sip_phone>(), dst,
                                                    n);
      }},
     {"get_event_iot_notify_json", "HTTP notification targets of each IoT alarm rule",
-     [](char *dst, int32_t n) { return get_event_iot_notify_json(&sample<event_notify_record, fill_notify>(), dst, n); }},
+     [](char *dst, int32_t n) { return get_event_iot_notify_json(&sample_in_place<event_notify_record, fill_notify>(), dst, n); }},
     {"get_event_iot_osd_blink_json", "on-screen display blinking on each IoT alarm rule",
      [](char *dst, int32_t n) {
-         return get_event_iot_osd_blink_json(&sample<event_osd_blink_record, fill_osd_blink>(), dst, n);
+         return get_event_iot_osd_blink_json(&sample_in_place<event_osd_blink_record, fill_osd_blink>(), dst, n);
      }},
     {"get_event_iot_alarm_status_json", "current IoT alarm state",
      [](char *dst, int32_t n) {

@@ -2,17 +2,6 @@
 
 namespace {
 
-// The device table and the alarm rules are large: filled in place, once, in
-// static storage.
-template <typename Record, void (*Fill)(Record &)>
-const Record &sample()
-{
-    static Record r{};
-    static const bool filled = (Fill(r), true);
-    (void)filled;
-    return r;
-}
-
 // An EU868 gateway: radio 0 at 867.5 MHz, radio 1 at 868.5 MHz.
 void fill_radios(iot_radios_setting_record &r)
 {
@@ -184,11 +173,11 @@ iot_device_table *device_table()
 const CatalogEntry entries[] = {
     {"get_iot_radios_setting_json", "LoRaWAN gateway radio front end and channels",
      [](char *dst, int32_t n) {
-         return get_iot_radios_setting_json(&sample<iot_radios_setting_record, fill_radios>(), dst, n);
+         return get_iot_radios_setting_json(&sample_in_place<iot_radios_setting_record, fill_radios>(), dst, n);
      }},
     {"get_iot_profile_setting_json", "LoRaWAN device profiles in use",
      [](char *dst, int32_t n) {
-         return get_iot_profile_setting_json(&sample<iot_profile_setting_record, fill_profiles>(), dst, n);
+         return get_iot_profile_setting_json(&sample_in_place<iot_profile_setting_record, fill_profiles>(), dst, n);
      }},
     {"get_iot_devices_management_json", "registered IoT devices with their sensor readings",
      [](char *dst, int32_t n) {
@@ -197,7 +186,7 @@ const CatalogEntry entries[] = {
      }},
     {"get_iot_alarm_settings_json", "threshold alarm rules on the IoT sensors",
      [](char *dst, int32_t n) {
-         return get_iot_alarm_settings_json(&sample<iot_alarm_settings_record, fill_alarm_settings>(), dst, n);
+         return get_iot_alarm_settings_json(&sample_in_place<iot_alarm_settings_record, fill_alarm_settings>(), dst, n);
      }},
 };
 

@@ -25,7 +25,7 @@
 #ifndef MIDDLEWARE_INTERNAL_H
 #define MIDDLEWARE_INTERNAL_H
 
-#include "middleware.h"
+#include "describe.h"
 
 #include <cstdarg>
 #include <cstddef>
@@ -35,14 +35,9 @@ namespace mw {
 
 /* ---- the contract ---- */
 
-/* The buffer test every serializer starts with: a buffer and room for at
-   least its NUL. */
-inline bool buffer_usable(const char *dst, int32_t dstSize) { return dst != nullptr && dstSize >= 1; }
-
-/* Prints `root` in cJSON's formatted style, deletes the tree, copies at most
-   dstSize-1 bytes and a NUL into dst (nothing when dst is NULL or dstSize < 1)
-   and frees the text. -1 when nothing could be printed, else 0. */
-int32_t print_document(cJSON *root, char *dst, int32_t dstSize);
+/* buffer_usable (the buffer test every serializer starts with) and
+   print_document (print, delete the tree, copy at most dstSize-1 bytes and a
+   NUL, free the text; -1 when nothing could be printed) are in describe.h. */
 
 /* The serializer contract around a fill step `fill(cJSON *root)`. */
 template <typename Fill>
@@ -161,5 +156,47 @@ struct PolygonText {
 PolygonText polygon_text(const int32_t *values, size_t count);
 
 } // namespace mw
+
+/* ---- declaring a page ----
+ *
+ * A page is declared once with its description (describe.h); the macro gives
+ * its serializer get_<resource>_json, its schema function
+ * schema_<resource>_json and, for a page a client may write,
+ * set_<resource>_json. The record is <resource>_record.
+ *
+ *     MW_SETTABLE_PAGE(ptz_wiper, [](auto &a, auto &r) {
+ *         a("autoWiper", r.autoWiper);
+ *         a("status", r.status);
+ *     })
+ *
+ * Pages with other argument lists write the three functions with
+ * mw::render_page, mw::apply_page and mw::schema_page. */
+#define MW_PAGE_DESCRIPTION_(resource, ...)                                                                  \
+    namespace {                                                                                              \
+    constexpr auto describe_##resource = __VA_ARGS__;                                                        \
+    }                                                                                                        \
+    int32_t get_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)                   \
+    {                                                                                                        \
+        return mw::render_page(dst, dstSize, describe_##resource, *in);                                      \
+    }
+
+#define MW_READ_ONLY_PAGE(resource, ...)                                                                     \
+    MW_PAGE_DESCRIPTION_(resource, __VA_ARGS__)                                                              \
+    int32_t schema_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)                \
+    {                                                                                                        \
+        return mw::schema_page(dst, dstSize, "get_" #resource "_json", true, describe_##resource, *in);      \
+    }
+
+#define MW_SETTABLE_PAGE(resource, ...)                                                                      \
+    MW_PAGE_DESCRIPTION_(resource, __VA_ARGS__)                                                              \
+    int32_t schema_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)                \
+    {                                                                                                        \
+        return mw::schema_page(dst, dstSize, "get_" #resource "_json", false, describe_##resource, *in);     \
+    }                                                                                                        \
+    int32_t set_##resource##_json(resource##_record *record, const char *body, int32_t bodySize, char *dst,  \
+                                  int32_t dstSize)                                                           \
+    {                                                                                                        \
+        return mw::apply_page(describe_##resource, record, body, bodySize, dst, dstSize);                    \
+    }
 
 #endif /* MIDDLEWARE_INTERNAL_H */

@@ -78,12 +78,21 @@ DynamicInfo read_dynamic(const std::string &image)
     return info;
 }
 
-// The functions the public header declares with MW_API.
+// The functions the public headers declare with MW_API: the umbrella header
+// and every header it includes beside it.
 std::set<std::string> declared_api()
 {
+    const std::string path = MW_HEADER_PATH;
+    const std::string dir = path.substr(0, path.rfind('/') + 1);
+    std::string text = read_file(path.c_str());
+    std::istringstream umbrella(text);
+    std::string line;
+    while (std::getline(umbrella, line))
+        if (line.rfind("#include \"", 0) == 0)
+            text += read_file((dir + line.substr(10, line.find('"', 10) - 10)).c_str());
     // Preprocessor lines (the macro's own definition among them) are not declarations.
-    std::istringstream lines(read_file(MW_HEADER_PATH));
-    std::string header, line;
+    std::istringstream lines(text);
+    std::string header;
     while (std::getline(lines, line))
         if (line.find_first_not_of(" \t") == std::string::npos || line[line.find_first_not_of(" \t")] != '#')
             header += line + "\n";

@@ -11,7 +11,24 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <vector>
+
+// A live page: the state a web server holds for it (its record, or its
+// records and argument) and the calls over that state. States are plain
+// bytes: copied with memcpy, compared with memcmp.
+struct PageOps {
+    size_t stateSize;              // bytes of one state
+    void (*initial)(void *state);  // writes the catalog's sample into `state`
+    int32_t (*render)(void *state, char *dst, int32_t dstSize);
+    int32_t (*schema)(void *state, char *dst, int32_t dstSize);
+    // The set function over the state; nullptr for a read-only page.
+    int32_t (*set)(void *state, const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+    // The page's selector or integer argument inside the state (the event
+    // type of a per-event-type page, a count), or nullptr; and its name.
+    int32_t *(*argument)(void *state) = nullptr;
+    const char *argumentName = nullptr;
+};
 
 struct CatalogEntry {
     const char *name;        // the exported function that renders it
@@ -23,7 +40,52 @@ struct CatalogEntry {
     // False for the few serializers that never test their buffer (they print
     // and copy nothing for a size below 1, returning 0).
     bool testsBuffer = true;
+    // The page behind the document; nullptr for the reply envelopes.
+    const PageOps *page = nullptr;
+    // Why a client cannot write the page (a few words); nullptr when it can.
+    const char *readOnly = nullptr;
 };
+
+// A sample record made once by `Make` and kept.
+template <typename R, R (*Make)()>
+const R &kept()
+{
+    static const R r = Make();
+    return r;
+}
+
+// The page of a serializer over one record: its state is the record.
+template <typename R, const R &(*Sample)(), int32_t (*Get)(const R *, char *, int32_t),
+          int32_t (*Schema)(const R *, char *, int32_t),
+          int32_t (*Set)(R *, const char *, int32_t, char *, int32_t) = nullptr>
+struct RecordPage {
+    static void initial(void *state) { memcpy(state, &Sample(), sizeof(R)); }
+    static int32_t render(void *state, char *dst, int32_t n) { return Get(static_cast<const R *>(state), dst, n); }
+    static int32_t schema(void *state, char *dst, int32_t n) { return Schema(static_cast<const R *>(state), dst, n); }
+    static int32_t set(void *state, const char *body, int32_t size, char *dst, int32_t n)
+    {
+        return Set(static_cast<R *>(state), body, size, dst, n);
+    }
+    static int32_t sample(char *dst, int32_t n) { return Get(&Sample(), dst, n); }
+    static constexpr PageOps ops{sizeof(R), initial, render, schema, Set != nullptr ? set : nullptr};
+};
+
+// A catalog entry for a page type with `ops` and `sample` (RecordPage, or a
+// page type of a group's own for other argument lists).
+template <typename Page>
+constexpr CatalogEntry page_entry(const char *name, const char *description, const char *readOnly = nullptr)
+{
+    return CatalogEntry{name, description, Page::sample, true, &Page::ops, readOnly};
+}
+
+// The entries of single-record pages, by resource name: a settable one, and
+// a read-only one with the reason.
+#define MW_SETTABLE_ENTRY(resource, description, sample)                                                      \
+    page_entry<RecordPage<resource##_record, sample, get_##resource##_json, schema_##resource##_json,          \
+                          set_##resource##_json>>("get_" #resource "_json", description)
+#define MW_READ_ONLY_ENTRY(resource, description, reason, sample)                                             \
+    page_entry<RecordPage<resource##_record, sample, get_##resource##_json, schema_##resource##_json>>(        \
+        "get_" #resource "_json", description, reason)
 
 struct CatalogGroup {
     const char *name;

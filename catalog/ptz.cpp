@@ -143,90 +143,59 @@ ptz_auto_tracking_record sample_auto_tracking()
     return r;
 }
 
+// Samples kept as the web server keeps a page's record.
+ptz_panel_status_record panel_status() { return ptz_panel_status_record{0, 1, 1, 0, 1, 1, 1, 1}; }
+ptz_status_record status() { return ptz_status_record{4.5, 1, 0}; }
+ptz_auto_home_record auto_home() { return ptz_auto_home_record{0, 1, 1, 1, 0, 180}; }
+ptz_zoom_pos_record zoom_pos() { return ptz_zoom_pos_record{{1830, 2410}}; }
+ptz_rs485_record rs485() { return ptz_rs485_record{1, 9600, 8, 1, 0, 0}; }
+ptz_wiper_record wiper() { return ptz_wiper_record{1, 0}; }
+ptz_scheduled_tasks_record scheduled_tasks()
+{
+    ptz_scheduled_tasks_record t{};
+    t.enable = 1;
+    t.recoveryTime = 300;
+    weekly_schedule(t.schedule, "1:07:00-19:00,2:19:00-24:00", "2:00:00-24:00");
+    return t;
+}
+ptz_limit_record limit()
+{
+    static const ptz_limit_settings settings{0, 1, 0, 1, 1, 0};
+    return ptz_limit_record{&settings, 0, 0};
+}
+ptz_control_record control()
+{
+    static const ptz_tour_info tour = sample_tour();
+    return ptz_control_record{2, &tour, nullptr, nullptr, nullptr, nullptr, 0, nullptr};
+}
+
 const CatalogEntry entries[] = {
-    {"get_ptz_panel_status_json", "which functions the PTZ control panel offers",
-     [](char *dst, int32_t n) {
-         static const ptz_panel_status_record r{0, 1, 1, 0, 1, 1, 1, 1};
-         return get_ptz_panel_status_json(&r, dst, n);
-     }},
-    {"get_ptz_status_json", "housing temperature, heater and fan",
-     [](char *dst, int32_t n) {
-         static const ptz_status_record r{4.5, 1, 0};
-         return get_ptz_status_json(&r, dst, n);
-     }},
-    {"get_ptz_presets_json", "the stored presets with their positions and names",
-     [](char *dst, int32_t n) {
-         static const ptz_presets_record r = sample_presets();
-         return get_ptz_presets_json(&r, dst, n);
-     }},
-    {"get_ptz_others_json", "tilt limits, tracking switches and the preset list",
-     [](char *dst, int32_t n) {
-         static const ptz_others_record r = sample_others();
-         return get_ptz_others_json(&r, dst, n);
-     }},
-    {"get_ptz_run_status_json", "which tour or pattern is running",
-     [](char *dst, int32_t n) {
-         static const ptz_run_status_record r = sample_run_status();
-         return get_ptz_run_status_json(&r, dst, n);
-     }},
-    {"get_ptz_auto_home_json", "return to a preset after a spell without control",
-     [](char *dst, int32_t n) {
-         static const ptz_auto_home_record r{0, 1, 1, 1, 0, 180};
-         return get_ptz_auto_home_json(&r, dst, n);
-     }},
-    {"get_ptz_track_point_json", "the people being tracked and their boxes",
-     [](char *dst, int32_t n) {
-         static const ptz_track_point_record r = sample_track_points();
-         return get_ptz_track_point_json(&r, dst, n);
-     }},
-    {"get_ptz_zoom_pos_json", "the zoom motor positions",
-     [](char *dst, int32_t n) {
-         static const ptz_zoom_pos_record r{{1830, 2410}};
-         return get_ptz_zoom_pos_json(&r, dst, n);
-     }},
-    {"get_ptz_rs485_json", "the RS-485 control line",
-     [](char *dst, int32_t n) {
-         static const ptz_rs485_record r{1, 9600, 8, 1, 0, 0};
-         return get_ptz_rs485_json(&r, dst, n);
-     }},
-    {"get_ptz_wiper_json", "wiper mode and state",
-     [](char *dst, int32_t n) {
-         static const ptz_wiper_record r{1, 0};
-         return get_ptz_wiper_json(&r, dst, n);
-     }},
-    {"get_ptz_basic_json", "motion, focus and recovery settings",
-     [](char *dst, int32_t n) {
-         static const ptz_basic_record r = sample_basic();
-         return get_ptz_basic_json(&r, dst, n);
-     }},
-    {"get_ptz_limit_json", "manual and scan movement limits",
-     [](char *dst, int32_t n) {
-         static const ptz_limit_settings settings{0, 1, 0, 1, 1, 0};
-         static const ptz_limit_record r{&settings, 0, 0};
-         return get_ptz_limit_json(&r, dst, n);
-     }},
-    {"get_ptz_scheduled_tasks_json", "the weekly scheduled tasks",
-     [](char *dst, int32_t n) {
-         static const ptz_scheduled_tasks_record r = [] {
-             ptz_scheduled_tasks_record t{};
-             t.enable = 1;
-             t.recoveryTime = 300;
-             weekly_schedule(t.schedule, "1:07:00-19:00,2:19:00-24:00", "2:00:00-24:00");
-             return t;
-         }();
-         return get_ptz_scheduled_tasks_json(&r, dst, n);
-     }},
-    {"get_ptz_control_json", "the state of the last control request (here a running tour)",
-     [](char *dst, int32_t n) {
-         static const ptz_tour_info tour = sample_tour();
-         static const ptz_control_record r{2, &tour, nullptr, nullptr, nullptr, nullptr, 0, nullptr};
-         return get_ptz_control_json(&r, dst, n);
-     }},
-    {"get_ptz_auto_tracking_json", "auto tracking settings and schedule",
-     [](char *dst, int32_t n) {
-         static const ptz_auto_tracking_record r = sample_auto_tracking();
-         return get_ptz_auto_tracking_json(&r, dst, n);
-     }},
+    MW_READ_ONLY_ENTRY(ptz_panel_status, "which functions the PTZ control panel offers", "what the dome offers",
+                       (kept<ptz_panel_status_record, panel_status>)),
+    MW_READ_ONLY_ENTRY(ptz_status, "housing temperature, heater and fan", "live readings",
+                       (kept<ptz_status_record, status>)),
+    MW_READ_ONLY_ENTRY(ptz_presets, "the stored presets with their positions and names",
+                       "presets are stored by moving the dome", (kept<ptz_presets_record, sample_presets>)),
+    MW_SETTABLE_ENTRY(ptz_others, "tilt limits, tracking switches and the preset list",
+                      (kept<ptz_others_record, sample_others>)),
+    MW_READ_ONLY_ENTRY(ptz_run_status, "which tour or pattern is running", "live state",
+                       (kept<ptz_run_status_record, sample_run_status>)),
+    MW_SETTABLE_ENTRY(ptz_auto_home, "return to a preset after a spell without control",
+                      (kept<ptz_auto_home_record, auto_home>)),
+    MW_READ_ONLY_ENTRY(ptz_track_point, "the people being tracked and their boxes", "live tracking report",
+                       (kept<ptz_track_point_record, sample_track_points>)),
+    MW_READ_ONLY_ENTRY(ptz_zoom_pos, "the zoom motor positions", "live motor positions",
+                       (kept<ptz_zoom_pos_record, zoom_pos>)),
+    MW_SETTABLE_ENTRY(ptz_rs485, "the RS-485 control line", (kept<ptz_rs485_record, rs485>)),
+    MW_SETTABLE_ENTRY(ptz_wiper, "wiper mode and state", (kept<ptz_wiper_record, wiper>)),
+    MW_SETTABLE_ENTRY(ptz_basic, "motion, focus and recovery settings", (kept<ptz_basic_record, sample_basic>)),
+    MW_SETTABLE_ENTRY(ptz_limit, "manual and scan movement limits", (kept<ptz_limit_record, limit>)),
+    MW_SETTABLE_ENTRY(ptz_scheduled_tasks, "the weekly scheduled tasks",
+                      (kept<ptz_scheduled_tasks_record, scheduled_tasks>)),
+    MW_READ_ONLY_ENTRY(ptz_control, "the state of the last control request (here a running tour)",
+                       "the answer to a control request", (kept<ptz_control_record, control>)),
+    MW_SETTABLE_ENTRY(ptz_auto_tracking, "auto tracking settings and schedule",
+                      (kept<ptz_auto_tracking_record, sample_auto_tracking>)),
 };
 
 } // namespace

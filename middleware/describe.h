@@ -49,8 +49,16 @@
  * (`Name::copied`).
  *
  * Conditions and loops in a description read the record. While a request is
- * applied that is the staging copy, so a member applied earlier in the
- * document (a count, a switch) already holds for the keys after it.
+ * applied that is the staging copy. Which keys are settable:
+ *   - a member copied as it stands is settable (a);
+ *   - a value the page computes is derived: formatted or joined texts,
+ *     constants, a member shown with an offset or scaled, a member behind a
+ *     const pointer, a member shown a second time under another key;
+ *   - a member that decides what else the page prints (a count that bounds
+ *     a list, a switch that adds or drops keys, a selector) is derived too,
+ *     so that setting one key never changes another. A test that only tells
+ *     an empty slot from a used one (an id of 0, an empty name) is no such
+ *     decision: the slot's members stay settable.
  *
  * Pages are declared with MW_PAGE / MW_SETTABLE_PAGE (internal.h), which
  * give the serializer, the set function and the schema function.

@@ -2,9 +2,10 @@
  * mw-render - renders the catalog's sample documents, as the camera's web
  * server would send them.
  *
- *   mw-render --list        the documents, one a line, with what each is
+ *   mw-render --list        the documents, one a line: settable or read-only, and what each is
  *   mw-render NAME...       render the named documents to standard output
  *   mw-render --all         render every document, each under a header line
+ *   mw-render --schema NAME the JSON Schema of a page's sample document
  */
 #include "catalog.h"
 
@@ -19,12 +20,14 @@ constexpr int32_t kBufferSize = 4 * 1024 * 1024;
 void usage(FILE *out)
 {
     fprintf(out,
-            "usage: mw-render --list | --all | NAME...\n"
+            "usage: mw-render --list | --all | --schema NAME | NAME...\n"
             "Renders the sample documents of the camera's JSON library.\n"
-            "  --list   list the documents with a one-line description each\n"
-            "  --all    render every document, each after a line '# NAME'\n"
-            "  NAME     render that document (a serializer's name, see --list)\n"
-            "  --help   this text\n");
+            "  --list         list the documents: settable (a client may post it back) or\n"
+            "                 read-only, and a one-line description each\n"
+            "  --all          render every document, each after a line '# NAME'\n"
+            "  --schema NAME  print the JSON Schema of that page's sample document\n"
+            "  NAME           render that document (a serializer's name, see --list)\n"
+            "  --help         this text\n");
 }
 
 // Renders one entry to stdout; false (with a message on stderr) on failure.
@@ -58,12 +61,33 @@ int main(int argc, char **argv)
     }
     const std::vector<const CatalogEntry *> entries = catalog_entries();
     if (strcmp(argv[1], "--list") == 0) {
-        for (const CatalogEntry *entry : entries)
-            printf("%-48s %s\n", entry->name, entry->description);
+        for (const CatalogEntry *entry : entries) {
+            const char *kind = entry->page == nullptr ? "reply" : entry->page->set != nullptr ? "settable" : "read-only";
+            printf("%-48s %-9s %s\n", entry->name, kind, entry->description);
+        }
         return 0;
     }
 
     std::vector<char> buffer(kBufferSize);
+    if (strcmp(argv[1], "--schema") == 0) {
+        if (argc != 3) {
+            usage(stderr);
+            return 2;
+        }
+        const CatalogEntry *entry = catalog_find(argv[2]);
+        if (entry == nullptr || entry->page == nullptr) {
+            fprintf(stderr, "mw-render: no page named '%s' (mw-render --list shows them)\n", argv[2]);
+            return 1;
+        }
+        std::vector<unsigned char> state(entry->page->stateSize);
+        entry->page->initial(state.data());
+        if (entry->page->schema(state.data(), buffer.data(), kBufferSize) != 0) {
+            fprintf(stderr, "mw-render: %s: the schema could not be printed\n", entry->name);
+            return 1;
+        }
+        puts(buffer.data());
+        return 0;
+    }
     bool ok = true;
     if (strcmp(argv[1], "--all") == 0) {
         for (const CatalogEntry *entry : entries) {

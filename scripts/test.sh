@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# The whole test suite: a plain build, a sanitizer build (ASan + UBSan) and a
-# 64-bit Arm build run under qemu-user, each built and run through CTest.
+# The whole test suite: a plain build, a sanitizer build (ASan + UBSan), the
+# concurrency test under ThreadSanitizer, a coverage build held to its floor,
+# and a 64-bit Arm build run under qemu-user, each built and run through CTest.
 # Installs what is missing first. Exits non-zero when any test fails.
 # MW_SKIP_ARM64=1 leaves out the Arm build (a quicker local run).
 set -euo pipefail
@@ -17,6 +18,14 @@ bash scripts/build.sh build-sanitize -DMW_TESTS=ON -DMW_SANITIZE=ON
 echo "== tests (sanitizers)"
 ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     ctest --test-dir build-sanitize --output-on-failure -j"$(nproc)"
+
+echo "== concurrency test (thread sanitizer)"
+cmake -S . -B build-tsan -DMW_TESTS=ON -DMW_TSAN=ON >/dev/null
+cmake --build build-tsan -j"$(nproc)" --target middleware_tests >/dev/null
+TSAN_OPTIONS=halt_on_error=1 ./build-tsan/tests/middleware_tests --gtest_filter='Concurrency.*'
+
+echo "== coverage of middleware/ (lines and branches)"
+bash scripts/coverage.sh build-coverage
 
 if [ "${MW_SKIP_ARM64:-0}" != 1 ]; then
     bash scripts/test-arm64.sh

@@ -4,7 +4,7 @@
 # for missing packages.
 set -euo pipefail
 
-packages=(cmake make g++ gcc binutils pkg-config libcjson-dev libgtest-dev libbenchmark-dev python3 python3-jsonschema gcovr)
+packages=(cmake make g++ gcc binutils pkg-config libcjson-dev libgtest-dev libbenchmark-dev python3 python3-jsonschema gcovr clang libclang-rt-dev)
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

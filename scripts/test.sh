@@ -24,6 +24,9 @@ cmake -S . -B build-tsan -DMW_TESTS=ON -DMW_TSAN=ON >/dev/null
 cmake --build build-tsan -j"$(nproc)" --target middleware_tests >/dev/null
 TSAN_OPTIONS=halt_on_error=1 ./build-tsan/tests/middleware_tests --gtest_filter='Concurrency.*'
 
+echo "== fuzzing (each target about 30 s from its corpus)"
+bash scripts/fuzz.sh --all "${MW_FUZZ_SECONDS:-30}"
+
 echo "== coverage of middleware/ (lines and branches)"
 bash scripts/coverage.sh build-coverage
 

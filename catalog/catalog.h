@@ -54,20 +54,27 @@ const R &kept()
     return r;
 }
 
-// The page of a serializer over one record: its state is the record.
+// The page of a serializer over one record: its state is the record. A
+// read-only page has no set function.
 template <typename R, const R &(*Sample)(), int32_t (*Get)(const R *, char *, int32_t),
-          int32_t (*Schema)(const R *, char *, int32_t),
-          int32_t (*Set)(R *, const char *, int32_t, char *, int32_t) = nullptr>
-struct RecordPage {
+          int32_t (*Schema)(const R *, char *, int32_t)>
+struct ReadOnlyRecordPage {
     static void initial(void *state) { memcpy(state, &Sample(), sizeof(R)); }
     static int32_t render(void *state, char *dst, int32_t n) { return Get(static_cast<const R *>(state), dst, n); }
     static int32_t schema(void *state, char *dst, int32_t n) { return Schema(static_cast<const R *>(state), dst, n); }
+    static int32_t sample(char *dst, int32_t n) { return Get(&Sample(), dst, n); }
+    static constexpr PageOps ops{sizeof(R), initial, render, schema, nullptr};
+};
+
+template <typename R, const R &(*Sample)(), int32_t (*Get)(const R *, char *, int32_t),
+          int32_t (*Schema)(const R *, char *, int32_t), int32_t (*Set)(R *, const char *, int32_t, char *, int32_t)>
+struct RecordPage : ReadOnlyRecordPage<R, Sample, Get, Schema> {
+    using Base = ReadOnlyRecordPage<R, Sample, Get, Schema>;
     static int32_t set(void *state, const char *body, int32_t size, char *dst, int32_t n)
     {
         return Set(static_cast<R *>(state), body, size, dst, n);
     }
-    static int32_t sample(char *dst, int32_t n) { return Get(&Sample(), dst, n); }
-    static constexpr PageOps ops{sizeof(R), initial, render, schema, Set != nullptr ? set : nullptr};
+    static constexpr PageOps ops{sizeof(R), Base::initial, Base::render, Base::schema, set};
 };
 
 // A catalog entry for a page type with `ops` and `sample` (RecordPage, or a
@@ -84,7 +91,7 @@ constexpr CatalogEntry page_entry(const char *name, const char *description, con
     page_entry<RecordPage<resource##_record, sample, get_##resource##_json, schema_##resource##_json,          \
                           set_##resource##_json>>("get_" #resource "_json", description)
 #define MW_READ_ONLY_ENTRY(resource, description, reason, sample)                                             \
-    page_entry<RecordPage<resource##_record, sample, get_##resource##_json, schema_##resource##_json>>(        \
+    page_entry<ReadOnlyRecordPage<resource##_record, sample, get_##resource##_json, schema_##resource##_json>>( \
         "get_" #resource "_json", description, reason)
 
 struct CatalogGroup {

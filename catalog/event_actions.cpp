@@ -146,43 +146,34 @@ void fill_event_call(event_event_call_record &r)
     }
 }
 
-const CatalogEntry entries[] = {
-    {"get_event_notify_json", "HTTP notification targets of every alarm event type",
-     [](char *dst, int32_t n) { return get_event_notify_json(&sample_in_place<event_notify_record, fill_notify>(), dst, n); }},
-    {"get_event_record_json", "recording on every alarm event type",
-     [](char *dst, int32_t n) { return get_event_record_json(&sample_in_place<event_record_record, fill_record>(), dst, n); }},
-    {"get_event_snop_json", "snapshots on motion, with the snapshot type",
-     [](char *dst, int32_t n) { return get_event_snop_json(&sample_in_place<event_snop_record, fill_snop>(), dst, n); }},
-    {"get_event_extern_output_json", "alarm output switched on every alarm event type",
-     [](char *dst, int32_t n) {
-         return get_event_extern_output_json(&sample_in_place<event_extern_output_record, fill_extern_output>(), dst, n);
-     }},
-    {"get_event_play_audio_json", "audio file played on every alarm event type, with its week",
-     [](char *dst, int32_t n) {
-         return get_event_play_audio_json(&sample_in_place<event_play_audio_record, fill_play_audio>(), dst, n);
-     }},
-    {"get_event_alarm_sip_phone_json", "SIP phone rung on every alarm event type",
-     [](char *dst, int32_t n) {
-         return get_event_alarm_sip_phone_json(&sample_in_place<event_alarm_sip_phone_record, fill_alarm_sip_phone>(), dst,
-                                               n);
-     }},
-    {"get_event_white_led_json", "white LED lit on every alarm event type",
-     [](char *dst, int32_t n) {
-         return get_event_white_led_json(&sample_in_place<event_white_led_record, fill_white_led>(), dst, n);
-     }},
-    {"get_event_ptz_motion_json", "PTZ zoom and return on every alarm event type",
-     [](char *dst, int32_t n) {
-         return get_event_ptz_motion_json(&sample_in_place<event_ptz_motion_record, fill_ptz_motion>(), dst, n);
-     }},
-    {"get_event_osd_blink_json", "on-screen display blinking on every alarm event type",
-     [](char *dst, int32_t n) {
-         return get_event_osd_blink_json(&sample_in_place<event_osd_blink_record, fill_osd_blink>(), dst, n);
-     }},
-    {"get_event_event_call_json", "PTZ preset, patrol or pattern called on every alarm event type",
-     [](char *dst, int32_t n) {
-         return get_event_event_call_json(&sample_in_place<event_event_call_record, fill_event_call>(), dst, n);
-     }},
+// A per-event-type page: its state is the record, whose eventType selects
+// the type shown (or every type, when negative).
+template <typename R, void (*Fill)(R &), int32_t (*Get)(const R *, char *, int32_t),
+          int32_t (*Schema)(const R *, char *, int32_t), int32_t (*Set)(R *, const char *, int32_t, char *, int32_t)>
+struct ActionPage : RecordPage<R, sample_in_place<R, Fill>, Get, Schema, Set> {
+    using Base = RecordPage<R, sample_in_place<R, Fill>, Get, Schema, Set>;
+    static int32_t *event_type(void *state) { return &static_cast<R *>(state)->eventType; }
+    static constexpr PageOps ops{sizeof(R), Base::initial, Base::render, Base::schema, Base::set, event_type, "eventType"};
 };
+
+#define ACTION_ENTRY(resource, fill, description)                                                                 \
+    page_entry<ActionPage<resource##_record, fill, get_##resource##_json, schema_##resource##_json,               \
+                          set_##resource##_json>>("get_" #resource "_json", description)
+
+const CatalogEntry entries[] = {
+    ACTION_ENTRY(event_notify, fill_notify, "HTTP notification targets of every alarm event type"),
+    ACTION_ENTRY(event_record, fill_record, "recording on every alarm event type"),
+    ACTION_ENTRY(event_snop, fill_snop, "snapshots on motion, with the snapshot type"),
+    ACTION_ENTRY(event_extern_output, fill_extern_output, "alarm output switched on every alarm event type"),
+    ACTION_ENTRY(event_play_audio, fill_play_audio, "audio file played on every alarm event type, with its week"),
+    ACTION_ENTRY(event_alarm_sip_phone, fill_alarm_sip_phone, "SIP phone rung on every alarm event type"),
+    ACTION_ENTRY(event_white_led, fill_white_led, "white LED lit on every alarm event type"),
+    ACTION_ENTRY(event_ptz_motion, fill_ptz_motion, "PTZ zoom and return on every alarm event type"),
+    ACTION_ENTRY(event_osd_blink, fill_osd_blink, "on-screen display blinking on every alarm event type"),
+    ACTION_ENTRY(event_event_call, fill_event_call, "PTZ preset, patrol or pattern called on every alarm event type"),
+};
+
+#undef ACTION_ENTRY
 
 } // namespace
 

@@ -4,8 +4,6 @@
  */
 #include "internal.h"
 
-using mw::add;
-
 /* ==== alarm actions per event type ==== */
 
 namespace {
@@ -13,146 +11,161 @@ namespace {
 /* The alarm event types of the event-name table: 0..47. */
 constexpr int32_t kLastAlarmEventType = 47;
 
-/* The per-event-type action document. A negative selector asks for every
-   event type: one object per type, in table order, named by the event-name
-   table; 0..47 asks for that type's object alone. Each object is filled by
-   `fill(object, type)` with the member's keys read at that type. A selector
-   above 47 has neither a name nor a slot and is refused. */
-template <typename Record, typename Fill>
-int32_t per_event_type_document(const Record *in, char *dst, int32_t dstSize, Fill &&fill)
+/* The per-event-type action document: one object per event type, named by
+   the event-name table, filled by `fill(object, type)` with the member's keys
+   read at that type. A negative selector shows every type in table order,
+   0..47 that type alone. A selector above 47 has neither a name nor a slot:
+   the serializer and the schema refuse it before describing, so only the
+   document a set request compares its read-only keys with is built for one,
+   and that shows every type. A set request takes the types it names,
+   whatever the selector. */
+template <typename A, typename Record, typename F>
+void action_per_event_type(A &a, const Record &r, F &&fill)
 {
-    if (!mw::buffer_usable(dst, dstSize) || in->eventType > kLastAlarmEventType)
-        return -1;
-    const int32_t selected = in->eventType;
-    return mw::document(dst, dstSize, [selected, &fill](cJSON *root) {
-        if (selected < 0) {
-            for (int32_t type = 0; type <= kLastAlarmEventType; ++type)
-                fill(mw::object(root, getAlarmEventTypeString(type)), type);
-        } else {
-            fill(mw::object(root, getAlarmEventTypeString(selected)), selected);
-        }
-    });
+    a.per_event_type(r.eventType <= kLastAlarmEventType ? r.eventType : -1, fill);
 }
 
 } // namespace
 
-int32_t get_event_notify_json(const event_notify_record *in, char *dst, int32_t dstSize)
-{
-    return per_event_type_document(in, dst, dstSize, [in](cJSON *type, int32_t i) {
-        add(type, "httpNotifyEnable", in->httpNotifyEnable[i]);
-        cJSON *list = mw::array(type, "notifyList");
-        for (int32_t j = 0; j < 3; ++j) {
-            const event_notify_entry &target = in->notifyList[i][j];
-            cJSON *entry = mw::append_object(list);
-            add(entry, "index", j);
-            add(entry, "enable", target.enable);
-            add(entry, "interval", target.interval);
-            add(entry, "url", target.url);
-            add(entry, "user", target.user);
-            add(entry, "password", target.password);
-            add(entry, "method", target.method);
-            add(entry, "snapShot", target.snapShot);
-        }
-    });
-}
+/* A per-event-type page: its serializer and schema refuse a selector above
+   the table with -1 (buffer untouched); its set function applies the types
+   the request names. */
+#define EVENT_ACTION_PAGE(resource, ...)                                                                      \
+    namespace {                                                                                               \
+    constexpr auto describe_##resource = __VA_ARGS__;                                                         \
+    }                                                                                                         \
+    int32_t get_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)                    \
+    {                                                                                                         \
+        if (in->eventType > kLastAlarmEventType)                                                              \
+            return -1;                                                                                        \
+        return mw::render_page(dst, dstSize, describe_##resource, *in);                                       \
+    }                                                                                                         \
+    int32_t schema_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)                 \
+    {                                                                                                         \
+        if (in->eventType > kLastAlarmEventType)                                                              \
+            return -1;                                                                                        \
+        return mw::schema_page(dst, dstSize, "get_" #resource "_json", false, describe_##resource, *in);      \
+    }                                                                                                         \
+    int32_t set_##resource##_json(resource##_record *record, const char *body, int32_t bodySize, char *dst,   \
+                                  int32_t dstSize)                                                            \
+    {                                                                                                         \
+        return mw::apply_page(describe_##resource, record, body, bodySize, dst, dstSize);                     \
+    }
 
-int32_t get_event_record_json(const event_record_record *in, char *dst, int32_t dstSize)
-{
-    return per_event_type_document(in, dst, dstSize, [in](cJSON *type, int32_t i) {
-        add(type, "recordEnable", in->recordSettings[i].recordEnable);
-        add(type, "recordWay", in->recordSettings[i].recordWay);
-        add(type, "duration", in->duration[i]);
-        add(type, "sdInsert", in->sdInsert[i]);
-        add(type, "nasMountStatus", in->nasMountStatus[i]);
+EVENT_ACTION_PAGE(event_notify, [](auto &a, auto &r) {
+    action_per_event_type(a, r, [&](auto &type, int32_t i) {
+        type("httpNotifyEnable", r.httpNotifyEnable[i]);
+        type.list("notifyList", "index", [&](auto &l) {
+            for (int32_t j = 0; j < 3; ++j) {
+                l.item(j, [&](auto &target) {
+                    auto &t = r.notifyList[i][j];
+                    target("enable", t.enable);
+                    target("interval", t.interval);
+                    target("url", t.url);
+                    target("user", t.user);
+                    target("password", t.password);
+                    target("method", t.method);
+                    target("snapShot", t.snapShot);
+                });
+            }
+        });
     });
-}
+})
 
-int32_t get_event_snop_json(const event_snop_record *in, char *dst, int32_t dstSize)
-{
-    return per_event_type_document(in, dst, dstSize, [in](cJSON *type, int32_t i) {
-        add(type, "snapSmtpEnable", in->snapSmtpEnable);
-        add(type, "snapEnable", in->snapEnable[i]);
-        add(type, "snapWay", in->snapWay[i]);
-        add(type, "interval", in->interval[i]);
-        add(type, "unit", in->unit[i]);
-        add(type, "imageNum", in->imageNum[i]);
-        add(type, "smtpInterval", in->smtpInterval[i]);
+EVENT_ACTION_PAGE(event_record, [](auto &a, auto &r) {
+    action_per_event_type(a, r, [&](auto &type, int32_t i) {
+        type("recordEnable", r.recordSettings[i].recordEnable);
+        type("recordWay", r.recordSettings[i].recordWay);
+        type("duration", r.duration[i]);
+        type("sdInsert", r.sdInsert[i]);
+        type("nasMountStatus", r.nasMountStatus[i]);
+    });
+})
+
+/* The mail switch is one value for every type, shown in each type's object.
+   It is written through the object of the selected type (of "motion" when
+   every type is shown); the other objects repeat it. */
+EVENT_ACTION_PAGE(event_snop, [](auto &a, auto &r) {
+    const int32_t mailSlot = r.eventType >= 0 && r.eventType <= kLastAlarmEventType ? r.eventType : 0;
+    action_per_event_type(a, r, [&](auto &type, int32_t i) {
+        if (i == mailSlot)
+            type("snapSmtpEnable", r.snapSmtpEnable);
+        else
+            type.derived("snapSmtpEnable", r.snapSmtpEnable);
+        type("snapEnable", r.snapEnable[i]);
+        type("snapWay", r.snapWay[i]);
+        type("interval", r.interval[i]);
+        type("unit", r.unit[i]);
+        type("imageNum", r.imageNum[i]);
+        type("smtpInterval", r.smtpInterval[i]);
         // The snapshot type belongs to the page of a single event type; the
         // overview of all types leaves it out.
-        if (in->eventType >= 0)
-            add(type, "snapType", in->snapType[i]);
+        type.when(r.eventType >= 0, [&](auto &single) { single("snapType", r.snapType[i]); });
     });
-}
+})
 
-int32_t get_event_extern_output_json(const event_extern_output_record *in, char *dst, int32_t dstSize)
-{
-    return per_event_type_document(in, dst, dstSize, [in](cJSON *type, int32_t i) {
-        add(type, "externOutputEnable", in->externOutputEnable[i]);
-        add(type, "externDuration", in->externDuration[i]);
-        add(type, "externOutputExtEnable", in->externOutputExtEnable[i]);
+EVENT_ACTION_PAGE(event_extern_output, [](auto &a, auto &r) {
+    action_per_event_type(a, r, [&](auto &type, int32_t i) {
+        type("externOutputEnable", r.externOutputEnable[i]);
+        type("externDuration", r.externDuration[i]);
+        type("externOutputExtEnable", r.externOutputExtEnable[i]);
     });
-}
+})
 
-int32_t get_event_play_audio_json(const event_play_audio_record *in, char *dst, int32_t dstSize)
-{
-    return per_event_type_document(in, dst, dstSize, [in](cJSON *type, int32_t i) {
-        add(type, "playAudioEnable", in->playAudioEnable[i]);
-        add(type, "audioInterval", in->audioInterval[i]);
-        mw::add_schedule_list(type, in->schedule[i]);
+EVENT_ACTION_PAGE(event_play_audio, [](auto &a, auto &r) {
+    action_per_event_type(a, r, [&](auto &type, int32_t i) {
+        type("playAudioEnable", r.playAudioEnable[i]);
+        type("audioInterval", r.audioInterval[i]);
+        mw::schedule_list(type, r.schedule[i]);
     });
-}
+})
 
-int32_t get_event_alarm_sip_phone_json(const event_alarm_sip_phone_record *in, char *dst, int32_t dstSize)
-{
-    return per_event_type_document(in, dst, dstSize, [in](cJSON *type, int32_t i) {
-        add(type, "alarmSipPhoneEnable", in->alarmSipPhoneEnable[i]);
-    });
-}
+EVENT_ACTION_PAGE(event_alarm_sip_phone, [](auto &a, auto &r) {
+    action_per_event_type(a, r, [&](auto &type, int32_t i) { type("alarmSipPhoneEnable", r.alarmSipPhoneEnable[i]); });
+})
 
-int32_t get_event_white_led_json(const event_white_led_record *in, char *dst, int32_t dstSize)
-{
-    return per_event_type_document(in, dst, dstSize, [in](cJSON *type, int32_t i) {
-        add(type, "whiteLedEnable", in->whiteLedEnable[i]);
-        add(type, "flashMode", in->flashMode[i]);
-        add(type, "flashTime", in->flashTime[i]);
-        add(type, "effectiveMode", in->effectiveMode[i]);
-        add(type, "effectiveBright", in->effectiveBright[i]);
-        add(type, "alwaysTime", in->alwaysTime[i]);
-        add(type, "startHour", in->startHour[i]);
-        add(type, "startMinute", in->startMinute[i]);
-        add(type, "stopHour", in->stopHour[i]);
-        add(type, "stopMinute", in->stopMinute[i]);
+EVENT_ACTION_PAGE(event_white_led, [](auto &a, auto &r) {
+    action_per_event_type(a, r, [&](auto &type, int32_t i) {
+        type("whiteLedEnable", r.whiteLedEnable[i]);
+        type("flashMode", r.flashMode[i]);
+        type("flashTime", r.flashTime[i]);
+        type("effectiveMode", r.effectiveMode[i]);
+        type("effectiveBright", r.effectiveBright[i]);
+        type("alwaysTime", r.alwaysTime[i]);
+        type("startHour", r.startHour[i]);
+        type("startMinute", r.startMinute[i]);
+        type("stopHour", r.stopHour[i]);
+        type("stopMinute", r.stopMinute[i]);
     });
-}
+})
 
-int32_t get_event_ptz_motion_json(const event_ptz_motion_record *in, char *dst, int32_t dstSize)
-{
-    return per_event_type_document(in, dst, dstSize, [in](cJSON *type, int32_t i) {
-        add(type, "ptzMotionEnable", in->ptzMotionEnable[i]);
-        add(type, "ptzZoomTimes", in->ptzZoomTimes[i]);   // zoom first, though stored after recovery
-        add(type, "ptzRecoveryTime", in->ptzRecoveryTime[i]);
+EVENT_ACTION_PAGE(event_ptz_motion, [](auto &a, auto &r) {
+    action_per_event_type(a, r, [&](auto &type, int32_t i) {
+        type("ptzMotionEnable", r.ptzMotionEnable[i]);
+        type("ptzZoomTimes", r.ptzZoomTimes[i]); // zoom first, though stored after recovery
+        type("ptzRecoveryTime", r.ptzRecoveryTime[i]);
     });
-}
+})
 
-int32_t get_event_osd_blink_json(const event_osd_blink_record *in, char *dst, int32_t dstSize)
-{
-    return per_event_type_document(in, dst, dstSize, [in](cJSON *type, int32_t i) {
-        add(type, "osdBlinkEnable", in->osdBlinkEnable[i]);
-        add(type, "osdBlinkTime", in->osdBlinkTime[i]);
+EVENT_ACTION_PAGE(event_osd_blink, [](auto &a, auto &r) {
+    action_per_event_type(a, r, [&](auto &type, int32_t i) {
+        type("osdBlinkEnable", r.osdBlinkEnable[i]);
+        type("osdBlinkTime", r.osdBlinkTime[i]);
     });
-}
+})
 
-int32_t get_event_event_call_json(const event_event_call_record *in, char *dst, int32_t dstSize)
-{
-    return per_event_type_document(in, dst, dstSize, [in](cJSON *type, int32_t i) {
-        add(type, "presetEnable", in->presetEnable[i]);
-        add(type, "presetId", in->presetId[i]);
-        add(type, "patrolEnable", in->patrolEnable[i]);
-        add(type, "patrolId", in->patrolId[i]);
-        add(type, "patternEnable", in->patternEnable[i]);
-        add(type, "patternId", in->patternId[i]);
+EVENT_ACTION_PAGE(event_event_call, [](auto &a, auto &r) {
+    action_per_event_type(a, r, [&](auto &type, int32_t i) {
+        type("presetEnable", r.presetEnable[i]);
+        type("presetId", r.presetId[i]);
+        type("patrolEnable", r.patrolEnable[i]);
+        type("patrolId", r.patrolId[i]);
+        type("patternEnable", r.patternEnable[i]);
+        type("patternId", r.patternId[i]);
     });
-}
+})
+
+#undef EVENT_ACTION_PAGE
 
 /* ==== end alarm actions per event type ==== */
 
@@ -162,8 +175,8 @@ int32_t get_event_event_call_json(const event_event_call_record *in, char *dst, 
 namespace {
 
 /* The number of list entries a stored count asks for, read as a signed
-   value: none for 0 or below, and never more than `slots`, the record's
-   array, has room for. */
+   value: none for 0 or below, and never more than the record's array has
+   room for. */
 template <typename T, size_t Capacity>
 int32_t entries_in_use(int32_t count, const T (&)[Capacity])
 {
@@ -174,186 +187,182 @@ int32_t entries_in_use(int32_t count, const T (&)[Capacity])
 
 /* One upload server's settings, without its enable byte (only the server in
    use reports that, at the root). */
-void add_ftp_server(cJSON *server, const ftp_server_entry &s)
+template <typename A, typename Server>
+void ftp_server(A &a, Server &s)
 {
-    add(server, "ftpAddress", s.ftpAddress);
-    add(server, "ftpPort", s.ftpPort);
-    add(server, "ftpPath", s.ftpPath);
-    add(server, "ftpUserName", s.ftpUserName);
-    add(server, "ftpPathType", s.ftpPathType);
-    add(server, "ftpParentDirType", s.ftpParentDirType);
-    add(server, "ftpParentDir", s.ftpParentDir);
-    add(server, "ftpChildDirType", s.ftpChildDirType);
-    add(server, "ftpChildDir", s.ftpChildDir);
-    add(server, "ftpAlarmDirType", s.ftpAlarmDirType);
-    add(server, "ftpVideoDirType", s.ftpVideoDirType);
-    add(server, "ftpVideoPrefix", s.ftpVideoPrefix);
-    add(server, "ftpVideoName", s.ftpVideoName);
-    add(server, "ftpImgDirType", s.ftpImgDirType);
-    add(server, "ftpImgPrefix", s.ftpImgPrefix);
-    add(server, "ftpImgName", s.ftpImgName);
-    add(server, "ftpProtocol", s.ftpProtocol);
-    add(server, "ftpPreRecordTime", s.ftpPreRecordTime);
-    add(server, "ftpSnapPrefix", s.ftpSnapPrefix);
-    add(server, "ftpSnapName", s.ftpSnapName);
-    add(server, "ftpSnapShotDirType", s.ftpSnapShotDirType);
-    add(server, "ftpSnapShotName", s.ftpSnapShotName);
-    add(server, "ftpSnapFileFormat", s.ftpSnapFileFormat);
-    add(server, "videoType", s.videoType);
+    a("ftpAddress", s.ftpAddress);
+    a("ftpPort", s.ftpPort);
+    a("ftpPath", s.ftpPath);
+    a("ftpUserName", s.ftpUserName);
+    a("ftpPathType", s.ftpPathType);
+    a("ftpParentDirType", s.ftpParentDirType);
+    a("ftpParentDir", s.ftpParentDir);
+    a("ftpChildDirType", s.ftpChildDirType);
+    a("ftpChildDir", s.ftpChildDir);
+    a("ftpAlarmDirType", s.ftpAlarmDirType);
+    a("ftpVideoDirType", s.ftpVideoDirType);
+    a("ftpVideoPrefix", s.ftpVideoPrefix);
+    a("ftpVideoName", s.ftpVideoName);
+    a("ftpImgDirType", s.ftpImgDirType);
+    a("ftpImgPrefix", s.ftpImgPrefix);
+    a("ftpImgName", s.ftpImgName);
+    a("ftpProtocol", s.ftpProtocol);
+    a("ftpPreRecordTime", s.ftpPreRecordTime);
+    a("ftpSnapPrefix", s.ftpSnapPrefix);
+    a("ftpSnapName", s.ftpSnapName);
+    a("ftpSnapShotDirType", s.ftpSnapShotDirType);
+    a("ftpSnapShotName", s.ftpSnapShotName);
+    a("ftpSnapFileFormat", s.ftpSnapFileFormat);
+    a("videoType", s.videoType);
 }
+
+/* currentType picks the server in use; any other value names none. */
+bool names_a_server(const event_server_ftp_record &r) { return r.currentType == 0 || r.currentType == 1; }
+
+/* The server in use is chosen elsewhere (it decides whose enable byte
+   "ftpEnable" is); this page sets that server's enable byte and both
+   servers' settings. */
+constexpr auto describe_event_server_ftp = [](auto &a, auto &r) {
+    a.derived("currentType", r.currentType);
+    a("ftpEnable", r.servers[r.currentType].enable);
+    a.object("ftpInfo", [&](auto &server) { ftp_server(server, r.servers[0]); });
+    a.object("sftpInfo", [&](auto &server) { ftp_server(server, r.servers[1]); });
+};
 
 } // namespace
 
-int32_t get_event_auto_tracking_json(const event_auto_tracking_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "ptzAutoTrackingEnable", in->ptzAutoTrackingEnable);
-    });
-}
+MW_SETTABLE_PAGE(event_auto_tracking, [](auto &a, auto &r) { a("ptzAutoTrackingEnable", r.ptzAutoTrackingEnable); })
 
-int32_t get_event_audio_sample_value_json(const event_audio_sample_value_record *in, char *dst,
-                                          int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) { add(root, "audiosampleValue", in->audiosampleValue); });
-}
+MW_READ_ONLY_PAGE(event_audio_sample_value, [](auto &a, auto &r) { a("audiosampleValue", r.audiosampleValue); })
 
-int32_t get_cal_region_json(const cal_region_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "startX", in->startX);
-        add(root, "startY", in->startY);
-        add(root, "width", in->width);
-        add(root, "height", in->height);
-    });
-}
+MW_SETTABLE_PAGE(cal_region, [](auto &a, auto &r) {
+    a("startX", r.startX);
+    a("startY", r.startY);
+    a("width", r.width);
+    a("height", r.height);
+})
 
-int32_t get_event_motion_json(const event_motion_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "triggerSensitivity", in->triggerSensitivity);
-        add(root, "motionEnable", in->motionEnable);
-        add(root, "dynamicAnalysisEnable", in->dynamicAnalysisEnable);
-        add(root, "activecell", in->activecell);
-        add(root, "detectionMode", in->detectionMode);
-        add(root, "windowRectangle", in->windowRectangle);
-        cJSON *regions = mw::array(root, "regionInfoList");
-        for (int32_t r = 0; r < 4; ++r) {
-            cJSON *region = mw::append_object(regions);
-            add(region, "regionIndex", r);
-            add(region, "sensitivity", in->sensitivity[r]);
-            add(region, "areaRegion", in->areaRegion[r]);
-        }
-        mw::add_schedule_list(root, in->schedule);
-    });
-}
-
-int32_t get_event_audio_info_json(const event_audio_info_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "audioEnable", in->audioEnable);
-        add(root, "audioAlarmEnable", in->audioAlarmEnable);
-        add(root, "audioMode", in->audioMode);
-        add(root, "audioAlarmThreshold", in->audioAlarmThreshold);
-        mw::add_schedule_list(root, in->schedule);
-    });
-}
-
-int32_t get_event_io_info_json(const event_io_info_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "outputNum", in->outputNum);
-        cJSON *outputs = mw::array(root, "outputIoList");
-        const int32_t count = entries_in_use(in->outputNum, in->logicalState);
-        for (int32_t o = 0; o < count; ++o) {
-            cJSON *output = mw::append_object(outputs);
-            add(output, "index", o);
-            add(output, "propertiesIdlestate", in->propertiesIdlestate[o]);
-            add(output, "logicalState", in->logicalState[o]);
+MW_SETTABLE_PAGE(event_motion, [](auto &a, auto &r) {
+    a("triggerSensitivity", r.triggerSensitivity);
+    a("motionEnable", r.motionEnable);
+    a("dynamicAnalysisEnable", r.dynamicAnalysisEnable);
+    a("activecell", r.activecell);
+    a("detectionMode", r.detectionMode);
+    a("windowRectangle", r.windowRectangle);
+    a.list("regionInfoList", "regionIndex", [&](auto &l) {
+        for (int32_t region = 0; region < 4; ++region) {
+            l.item(region, [&](auto &item) {
+                item("sensitivity", r.sensitivity[region]);
+                item("areaRegion", r.areaRegion[region]);
+            });
         }
     });
-}
+    mw::schedule_list(a, r.schedule);
+})
 
-int32_t get_event_extern_input_info_json(const event_extern_input_info_record *in, char *dst,
-                                         int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "supportInputNum", in->supportInputNum);
-        cJSON *inputs = mw::array(root, "inputList");
-        const int32_t count = entries_in_use(in->supportInputNum, in->status);
-        for (int32_t n = 0; n < count; ++n) {
-            cJSON *input = mw::append_object(inputs);
-            add(input, "index", n);
-            add(input, "enable", in->enable[n]);
-            add(input, "normal", in->normal[n]);
-            add(input, "status", in->status[n]);
+MW_SETTABLE_PAGE(event_audio_info, [](auto &a, auto &r) {
+    a("audioEnable", r.audioEnable);
+    a("audioAlarmEnable", r.audioAlarmEnable);
+    a("audioMode", r.audioMode);
+    a("audioAlarmThreshold", r.audioAlarmThreshold);
+    mw::schedule_list(a, r.schedule);
+})
+
+/* The number of outputs is the hardware's; the list shows that many, up to
+   the record's two. */
+MW_SETTABLE_PAGE(event_io_info, [](auto &a, auto &r) {
+    a.derived("outputNum", r.outputNum);
+    a.list("outputIoList", "index", [&](auto &l) {
+        for (int32_t o = 0; o < entries_in_use(r.outputNum, r.logicalState); ++o) {
+            l.item(o, [&](auto &output) {
+                output("propertiesIdlestate", r.propertiesIdlestate[o]);
+                output("logicalState", r.logicalState[o]);
+            });
         }
     });
-}
+})
 
-int32_t get_event_test_smtp_json(const event_test_smtp_record *in, char *dst, int32_t dstSize)
-{
-    // The page shows a word when the test mail went out and the mail
-    // client's error code when it did not.
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        if (in->testState == 1)
-            mw::add_string(root, "setState", "succeed");
-        else
-            add(root, "setState", in->errorCode);
+/* The number of inputs is the hardware's; the list shows that many, up to
+   the record's four. */
+MW_SETTABLE_PAGE(event_extern_input_info, [](auto &a, auto &r) {
+    a.derived("supportInputNum", r.supportInputNum);
+    a.list("inputList", "index", [&](auto &l) {
+        for (int32_t n = 0; n < entries_in_use(r.supportInputNum, r.status); ++n) {
+            l.item(n, [&](auto &input) {
+                input("enable", r.enable[n]);
+                input("normal", r.normal[n]);
+                input("status", r.status[n]);
+            });
+        }
     });
-}
+})
 
-int32_t get_event_server_smtp_json(const event_server_smtp_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "smtpEnable", in->smtpEnable);
-        add(root, "smtpAddress", in->smtpAddress);
-        add(root, "smtpPort", in->smtpPort);
-        add(root, "smtpUserName", in->smtpUserName);
-        add(root, "smtpSsl", in->smtpSsl);
-        add(root, "smtpFromAddress", in->smtpFromAddress);
-        add(root, "smtpToAddress", in->smtpToAddress);
-        add(root, "smtpImgType", in->smtpImgType);
-        add(root, "smtpImgPrefix", in->smtpImgPrefix);
-        add(root, "smtpImgName", in->smtpImgName);
-        add(root, "smtpSnapType", in->smtpSnapType);
-        add(root, "smtpSnapPrefix", in->smtpSnapPrefix);
-        add(root, "smtpSnapName", in->smtpSnapName);
-    });
-}
+/* The page shows a word when the test mail went out and the mail client's
+   error code when it did not. */
+MW_READ_ONLY_PAGE(event_test_smtp, [](auto &a, auto &r) {
+    if (r.testState == 1)
+        a.derived_text("setState", "succeed");
+    else
+        a("setState", r.errorCode);
+})
 
+MW_SETTABLE_PAGE(event_server_smtp, [](auto &a, auto &r) {
+    a("smtpEnable", r.smtpEnable);
+    a("smtpAddress", r.smtpAddress);
+    a("smtpPort", r.smtpPort);
+    a("smtpUserName", r.smtpUserName);
+    a("smtpSsl", r.smtpSsl);
+    a("smtpFromAddress", r.smtpFromAddress);
+    a("smtpToAddress", r.smtpToAddress);
+    a("smtpImgType", r.smtpImgType);
+    a("smtpImgPrefix", r.smtpImgPrefix);
+    a("smtpImgName", r.smtpImgName);
+    a("smtpSnapType", r.smtpSnapType);
+    a("smtpSnapPrefix", r.smtpSnapPrefix);
+    a("smtpSnapName", r.smtpSnapName);
+})
+
+/* A record whose currentType names no server cannot be shown, described or
+   written: -1 (a set request is answered "failed", the record untouched). */
 int32_t get_event_server_ftp_json(const event_server_ftp_record *in, char *dst, int32_t dstSize)
 {
-    // currentType picks the server in use; any other value names none.
-    if (!mw::buffer_usable(dst, dstSize) || in->currentType < 0 || in->currentType > 1)
+    if (!names_a_server(*in))
         return -1;
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "currentType", in->currentType);
-        add(root, "ftpEnable", in->servers[in->currentType].enable);
-        add_ftp_server(mw::object(root, "ftpInfo"), in->servers[0]);
-        add_ftp_server(mw::object(root, "sftpInfo"), in->servers[1]);
-    });
+    return mw::render_page(dst, dstSize, describe_event_server_ftp, *in);
 }
 
-int32_t get_event_global_enable_json(const event_global_enable_record *in, char *dst, int32_t dstSize)
+int32_t schema_event_server_ftp_json(const event_server_ftp_record *in, char *dst, int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "motionEnable", in->motionEnable);
-        add(root, "trackEnable", in->trackEnable);
-        add(root, "faceEnable", in->faceEnable);
-        add(root, "helmetEnable", in->helmetEnable);
-        add(root, "vehicleCountEnable", in->vehicleCountEnable);
-        add(root, "lprEnable", in->lprEnable);
-        add(root, "enablePtzMotion", in->enablePtzMotion);
-        add(root, "enablePtzMotionVca", in->enablePtzMotionVca);
-        add(root, "smartEventEnable", in->smartEventEnable);
-        add(root, "sipEnable", in->sipEnable);
-        add(root, "smtpEnable", in->smtpEnable);
-        add(root, "audioEnable", in->audioEnable);
-        add(root, "ftpEnable", in->ftpEnable);
-        add(root, "sdInsert", in->sdInsert);
-        add(root, "nasMountStatu", in->nasMountStatus);   // the key clients read, one letter short
-        add(root, "heatmapEnable", in->heatmapEnable);
-    });
+    if (!names_a_server(*in))
+        return -1;
+    return mw::schema_page(dst, dstSize, "get_event_server_ftp_json", false, describe_event_server_ftp, *in);
 }
+
+int32_t set_event_server_ftp_json(event_server_ftp_record *record, const char *body, int32_t bodySize, char *dst,
+                                  int32_t dstSize)
+{
+    event_server_ftp_record *usable = record != nullptr && names_a_server(*record) ? record : nullptr;
+    return mw::apply_page(describe_event_server_ftp, usable, body, bodySize, dst, dstSize);
+}
+
+/* A summary of switches set on their own pages and of the storage state. */
+MW_READ_ONLY_PAGE(event_global_enable, [](auto &a, auto &r) {
+    a("motionEnable", r.motionEnable);
+    a("trackEnable", r.trackEnable);
+    a("faceEnable", r.faceEnable);
+    a("helmetEnable", r.helmetEnable);
+    a("vehicleCountEnable", r.vehicleCountEnable);
+    a("lprEnable", r.lprEnable);
+    a("enablePtzMotion", r.enablePtzMotion);
+    a("enablePtzMotionVca", r.enablePtzMotionVca);
+    a("smartEventEnable", r.smartEventEnable);
+    a("sipEnable", r.sipEnable);
+    a("smtpEnable", r.smtpEnable);
+    a("audioEnable", r.audioEnable);
+    a("ftpEnable", r.ftpEnable);
+    a("sdInsert", r.sdInsert);
+    a("nasMountStatu", r.nasMountStatus); // the key clients read, one letter short
+    a("heatmapEnable", r.heatmapEnable);
+})
 
 /* ==== end event sources, upload servers and global switches ==== */

@@ -21,8 +21,10 @@ extern "C" {
 
    eventType: below 0 asks for every event type (the document holds 48
    objects, named in table order); 0..47 asks for that one type (one object).
-   The serializers refuse a selector above 47 with -1 and leave the buffer
-   untouched: there is no event of that number and no slot to read. */
+   The serializers and the schema functions refuse a selector above 47 with -1
+   and leave the buffer untouched: there is no event of that number and no
+   slot to read. A set request applies every event-type object it names,
+   whatever the selector, and never changes the selector. */
 
 /* One HTTP notification target of an event type. */
 typedef struct event_notify_entry {
@@ -165,6 +167,44 @@ MW_API int32_t get_event_osd_blink_json(const event_osd_blink_record *in, char *
                                         int32_t dstSize);
 MW_API int32_t get_event_event_call_json(const event_event_call_record *in, char *dst,
                                          int32_t dstSize);
+
+/* The schema of each document; the set functions take the event-type
+   objects a request names (see the selector above). In "event_snop" the
+   common "snapSmtpEnable" is written through the selected type's object
+   ("motion"'s when every type is shown); the other objects repeat it and
+   are read-only there. */
+MW_API int32_t schema_event_notify_json(const event_notify_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_record_json(const event_record_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_snop_json(const event_snop_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_extern_output_json(const event_extern_output_record *in,
+                                               char *dst, int32_t dstSize);
+MW_API int32_t schema_event_play_audio_json(const event_play_audio_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_alarm_sip_phone_json(const event_alarm_sip_phone_record *in,
+                                                 char *dst, int32_t dstSize);
+MW_API int32_t schema_event_white_led_json(const event_white_led_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_ptz_motion_json(const event_ptz_motion_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_osd_blink_json(const event_osd_blink_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_event_call_json(const event_event_call_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_event_notify_json(event_notify_record *record,
+                                     const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_record_json(event_record_record *record,
+                                     const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_snop_json(event_snop_record *record,
+                                   const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_extern_output_json(event_extern_output_record *record,
+                                            const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_play_audio_json(event_play_audio_record *record,
+                                         const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_alarm_sip_phone_json(event_alarm_sip_phone_record *record,
+                                              const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_white_led_json(event_white_led_record *record,
+                                        const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_ptz_motion_json(event_ptz_motion_record *record,
+                                         const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_osd_blink_json(event_osd_blink_record *record,
+                                        const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_event_call_json(event_event_call_record *record,
+                                         const char *body, int32_t bodySize, char *dst, int32_t dstSize);
 
 /* ===== end events: alarm actions per event type ===== */
 
@@ -358,6 +398,45 @@ MW_API int32_t get_event_extern_input_info_json(const event_extern_input_info_re
    "nasMountStatu". */
 MW_API int32_t get_event_global_enable_json(const event_global_enable_record *in, char *dst,
                                             int32_t dstSize);
+
+/* Schemas of every page, and set functions of the settable ones. The SMTP
+   test result, the audio level and the global switches (a summary of
+   switches set on their own pages, with the storage state) are read-only.
+   Read-only keys: "currentType" (it chooses whose enable byte "ftpEnable"
+   is), "outputNum" and "supportInputNum" (they bound their lists). The FTP
+   page's three functions refuse a currentType other than 0 or 1 with -1 (a
+   set request is answered "failed" and changes nothing). */
+MW_API int32_t schema_event_auto_tracking_json(const event_auto_tracking_record *in,
+                                               char *dst, int32_t dstSize);
+MW_API int32_t schema_event_motion_json(const event_motion_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_server_ftp_json(const event_server_ftp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_server_smtp_json(const event_server_smtp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_test_smtp_json(const event_test_smtp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_io_info_json(const event_io_info_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_audio_info_json(const event_audio_info_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_audio_sample_value_json(const event_audio_sample_value_record *in,
+                                                    char *dst, int32_t dstSize);
+MW_API int32_t schema_cal_region_json(const cal_region_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_extern_input_info_json(const event_extern_input_info_record *in,
+                                                   char *dst, int32_t dstSize);
+MW_API int32_t schema_event_global_enable_json(const event_global_enable_record *in,
+                                               char *dst, int32_t dstSize);
+MW_API int32_t set_event_auto_tracking_json(event_auto_tracking_record *record,
+                                            const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_motion_json(event_motion_record *record,
+                                     const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_server_ftp_json(event_server_ftp_record *record,
+                                         const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_server_smtp_json(event_server_smtp_record *record,
+                                          const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_io_info_json(event_io_info_record *record,
+                                      const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_audio_info_json(event_audio_info_record *record,
+                                         const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_cal_region_json(cal_region_record *record,
+                                   const char *body, int32_t bodySize, char *dst, int32_t dstSize);
+MW_API int32_t set_event_extern_input_info_json(event_extern_input_info_record *record,
+                                                const char *body, int32_t bodySize, char *dst, int32_t dstSize);
 
 /* ===== end events: sources, upload servers, global switches ===== */
 

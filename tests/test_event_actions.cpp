@@ -2,6 +2,7 @@
 // event type, named by the event table, or a list of the four IoT rules.
 #include "support.h"
 
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <string>
@@ -194,6 +195,107 @@ TEST(EventActions, SelectorAboveTheTableIsRefused)
     for (const int32_t selector : {48, INT32_MAX}) {
         const event_osd_blink_record r{selector, {}, {}};
         EXPECT_EQ(get_event_osd_blink_json(&r, buffer, sizeof buffer), -1) << selector;
+    }
+}
+
+// A set request and its reply.
+template <typename Record>
+int32_t post(int32_t (*set)(Record *, const char *, int32_t, char *, int32_t), Record &record, const std::string &body,
+             std::string *reply)
+{
+    char out[512] = {0};
+    const int32_t rc = set(&record, body.data(), static_cast<int32_t>(body.size()), out, sizeof out);
+    *reply = out;
+    return rc;
+}
+
+std::string refused_at(const char *path)
+{
+    char out[512];
+    zk_return_format_error_json(out, sizeof out, path);
+    return out;
+}
+
+// The selector picks what is shown; a request writes the types it names, for
+// any selector, the selector included that no document can show.
+TEST(EventActions, SetWritesTheNamedTypesWhateverTheSelector)
+{
+    for (const int32_t selector : {INT32_MIN, -1, 0, 47, 48, INT32_MAX}) {
+        SCOPED_TRACE(selector);
+        auto record = std::make_unique<event_notify_record>();
+        notify(*record);
+        record->eventType = selector;
+        auto expected = std::make_unique<event_notify_record>(*record);
+        expected->httpNotifyEnable[40] = 77;
+        char(&url)[1024] = expected->notifyList[6][2].url;
+        memset(url, 0, sizeof url); // a text is stored with the rest of its field cleared
+        snprintf(url, sizeof url, "http://moved");
+        expected->notifyList[47][0].interval = 0;
+        std::string reply;
+        ASSERT_EQ(post(set_event_notify_json, *record,
+                       R"({"helmet": {"httpNotifyEnable": 77}, "ipConflict": {"notifyList": [{"index": 2, "url": "http://moved"}]},
+                           "nouser3": {"notifyList": [{"index": 0, "interval": 0}]}})",
+                       &reply),
+                  0)
+            << reply;
+        EXPECT_EQ(memcmp(record.get(), expected.get(), sizeof *record), 0);
+    }
+}
+
+TEST(EventActions, SchemaRefusesASelectorAboveTheTable)
+{
+    auto record = std::make_unique<event_play_audio_record>();
+    char buffer[64];
+    for (const int32_t selector : {48, INT32_MAX}) {
+        record->eventType = selector;
+        memset(buffer, 'u', sizeof buffer);
+        EXPECT_EQ(schema_event_play_audio_json(record.get(), buffer, sizeof buffer), -1) << selector;
+        EXPECT_EQ(buffer[0], 'u') << selector;
+    }
+    record->eventType = 47;
+    EXPECT_EQ(schema_event_play_audio_json(record.get(), buffer, sizeof buffer), 0);
+}
+
+// The mail switch is one value shown in every object: only the selected
+// type's object ("motion" for the overview) writes it, the others may repeat
+// it. "snapType" is a key of the single-type page alone.
+TEST(EventActions, SnapshotMailSwitchIsWrittenThroughOneObject)
+{
+    const struct {
+        int32_t selector;
+        const char *body;
+        const char *refusedAt; // nullptr: applied
+    } cases[] = {
+        {-1, R"({"motion": {"snapSmtpEnable": 9}})", nullptr},
+        {-1, R"({"networkLost": {"snapSmtpEnable": 9}})", "networkLost.snapSmtpEnable"},
+        {-1, R"({"networkLost": {"snapSmtpEnable": -7}, "motion": {"snapSmtpEnable": 9}})", nullptr},
+        {5, R"({"parkingViolation": {"snapSmtpEnable": 9}})", nullptr},
+        {5, R"({"motion": {"snapSmtpEnable": 9}})", "motion.snapSmtpEnable"},
+        {48, R"({"motion": {"snapSmtpEnable": 9}})", nullptr},
+        {-1, R"({"motion": {"snapType": 9}})", "motion.snapType"},
+        {5, R"({"motion": {"snapType": 9}})", nullptr},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.body);
+        auto record = std::make_unique<event_snop_record>();
+        snop(*record);
+        record->eventType = c.selector;
+        auto before = std::make_unique<event_snop_record>(*record);
+        std::string reply;
+        const int32_t rc = post(set_event_snop_json, *record, c.body, &reply);
+        if (c.refusedAt != nullptr) {
+            EXPECT_EQ(rc, -1);
+            EXPECT_EQ(reply, refused_at(c.refusedAt));
+            EXPECT_EQ(memcmp(record.get(), before.get(), sizeof *record), 0);
+            continue;
+        }
+        ASSERT_EQ(rc, 0) << reply;
+        if (strstr(c.body, "snapType") != nullptr) {
+            before->snapType[0] = 9;
+        } else {
+            before->snapSmtpEnable = 9;
+        }
+        EXPECT_EQ(memcmp(record.get(), before.get(), sizeof *record), 0);
     }
 }
 

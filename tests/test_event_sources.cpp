@@ -1,6 +1,7 @@
 // The event sources, the upload servers and the global switches.
 #include "support.h"
 
+#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
@@ -139,6 +140,101 @@ TEST(EventSources, BothUploadServersWhicheverIsInUse)
     for (const int32_t current : {-1, 2}) {
         r->currentType = current;
         EXPECT_EQ(get_event_server_ftp_json(r.get(), buffer, sizeof buffer), -1) << current;
+    }
+}
+
+template <typename Record>
+int32_t post(int32_t (*set)(Record *, const char *, int32_t, char *, int32_t), Record &record, const std::string &body,
+             std::string *reply)
+{
+    char out[512] = {0};
+    const int32_t rc = set(&record, body.data(), static_cast<int32_t>(body.size()), out, sizeof out);
+    *reply = out;
+    return rc;
+}
+
+std::string refused_at(const std::string &path)
+{
+    char out[512];
+    zk_return_format_error_json(out, sizeof out, path.c_str());
+    return out;
+}
+
+// "ftpEnable" is the enable byte of the server in use; a currentType naming
+// no server leaves nothing to show, describe or write.
+TEST(EventSources, UploadServerInUseTakesFtpEnable)
+{
+    for (const int32_t current : {-1, 0, 1, 2}) {
+        SCOPED_TRACE(current);
+        auto r = std::make_unique<event_server_ftp_record>();
+        r->servers[0] = server(0);
+        r->servers[1] = server(1);
+        r->currentType = current;
+        auto expected = std::make_unique<event_server_ftp_record>(*r);
+        std::string reply;
+        const int32_t rc = post(set_event_server_ftp_json, *r, R"({"ftpEnable": 7})", &reply);
+        char buffer[64];
+        memset(buffer, 'u', sizeof buffer);
+        const int32_t schema = schema_event_server_ftp_json(r.get(), buffer, sizeof buffer);
+        if (current == 0 || current == 1) {
+            ASSERT_EQ(rc, 0) << reply;
+            expected->servers[current].enable = 7;
+            EXPECT_EQ(schema, 0);
+        } else {
+            char failed[64];
+            zk_return_set_request_faild_json(failed, sizeof failed);
+            EXPECT_EQ(rc, -1);
+            EXPECT_EQ(reply, failed);
+            EXPECT_EQ(schema, -1);
+            EXPECT_EQ(buffer[0], 'u');
+        }
+        EXPECT_EQ(memcmp(r.get(), expected.get(), sizeof *r), 0);
+    }
+}
+
+// A request reaches the slots the count shows and no further, whatever the
+// count says: the last shown slot is written, the next index is refused.
+TEST(EventSources, AlarmOutputsAndInputsAreWrittenUpToTheirListsEnd)
+{
+    const struct { int32_t count; int outputs, inputs; } cases[] = {
+        {INT32_MIN, 0, 0}, {0, 0, 0}, {1, 1, 1}, {2, 2, 2}, {3, 2, 3}, {INT32_MAX, 2, 4}};
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.count);
+        std::string reply;
+        event_io_info_record io{c.count, {99, 99, 99, 99}, {10, 11}, {20, 21}};
+        event_io_info_record ioExpected = io;
+        const std::string past = "outputIoList[" + std::to_string(c.outputs) + "]";
+        EXPECT_EQ(post(set_event_io_info_json, io,
+                       R"({"outputIoList": [{"index": )" + std::to_string(c.outputs) + R"(, "logicalState": 5}]})",
+                       &reply),
+                  -1);
+        EXPECT_EQ(reply, refused_at(past));
+        if (c.outputs > 0) {
+            const int last = c.outputs - 1;
+            ASSERT_EQ(post(set_event_io_info_json, io,
+                           R"({"outputIoList": [{"index": )" + std::to_string(last) + R"(, "logicalState": 5}]})",
+                           &reply),
+                      0)
+                << reply;
+            ioExpected.logicalState[last] = 5;
+        }
+        EXPECT_EQ(memcmp(&io, &ioExpected, sizeof io), 0);
+
+        event_extern_input_info_record in{c.count, {100, 101, 102, 103}, {200, 201, 202, 203}, {300, 301, 302, 303}};
+        event_extern_input_info_record inExpected = in;
+        EXPECT_EQ(post(set_event_extern_input_info_json, in,
+                       R"({"inputList": [{"index": )" + std::to_string(c.inputs) + R"(, "enable": 5}]})", &reply),
+                  -1);
+        EXPECT_EQ(reply, refused_at("inputList[" + std::to_string(c.inputs) + "]"));
+        if (c.inputs > 0) {
+            const int last = c.inputs - 1;
+            ASSERT_EQ(post(set_event_extern_input_info_json, in,
+                           R"({"inputList": [{"index": )" + std::to_string(last) + R"(, "enable": 5}]})", &reply),
+                      0)
+                << reply;
+            inExpected.enable[last] = 5;
+        }
+        EXPECT_EQ(memcmp(&in, &inExpected, sizeof in), 0);
     }
 }
 

@@ -24,7 +24,9 @@ fi
 run() {
     local target=$1 seconds=$2 name=${1#fuzz_}
     local work=build-fuzz/work/$name findings=build-fuzz/findings/$name
-    mkdir -p "$work" "$findings"
+    # A corpus folder with no seeds yet is not kept by git: start that target
+    # from nothing rather than fail.
+    mkdir -p "$work" "$findings" "fuzz/corpus/$name"
     local log=build-fuzz/$name.log
     if ! ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=halt_on_error=1 \
         "./build-fuzz/fuzz/$target" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=4096 \

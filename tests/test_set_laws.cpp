@@ -531,6 +531,77 @@ std::string entry_name(const ::testing::TestParamInfo<const CatalogEntry *> &inf
 
 INSTANTIATE_TEST_SUITE_P(Catalog, SetLaws, ::testing::ValuesIn(settable_pages()), entry_name);
 
+// Every page's schema, settable or not.
+std::vector<const CatalogEntry *> described_pages()
+{
+    std::vector<const CatalogEntry *> out;
+    for (const CatalogEntry *e : catalog_entries())
+        if (e->page != nullptr)
+            out.push_back(e);
+    return out;
+}
+
+class SchemaLaws : public ::testing::TestWithParam<const CatalogEntry *> {
+protected:
+    const PageOps &page() const { return *GetParam()->page; }
+    int32_t schema(State &state, char *dst, int32_t size) { return page().schema(state.bytes.data(), dst, size); }
+};
+
+TEST_P(SchemaLaws, UnusableBuffersAreRefusedUntouched)
+{
+    State state(page());
+    char byte = 'x';
+    EXPECT_EQ(schema(state, nullptr, kBuffer), -1);
+    EXPECT_EQ(schema(state, &byte, 0), -1);
+    EXPECT_EQ(schema(state, &byte, -1), -1);
+    EXPECT_EQ(byte, 'x');
+}
+
+TEST_P(SchemaLaws, ReadOnlyPagesMarkEveryKey)
+{
+    State state(page());
+    std::vector<char> out(kBuffer);
+    ASSERT_EQ(schema(state, out.data(), kBuffer), 0);
+    cJSON *doc = parse(state.render());
+    cJSON *described = parse(out.data());
+    ASSERT_NE(described, nullptr);
+    const Map map(doc, described);
+    EXPECT_FALSE(map.leaves.empty());
+    size_t readOnly = 0;
+    for (const Leaf &leaf : map.leaves)
+        readOnly += leaf.readOnly ? 1 : 0;
+    if (page().set == nullptr)
+        EXPECT_EQ(readOnly, map.leaves.size()) << "a status page's keys are all read-only";
+    else
+        EXPECT_LT(readOnly, map.leaves.size()) << "a configuration page has a key a client can set";
+    cJSON_Delete(doc);
+    cJSON_Delete(described);
+}
+
+TEST_P(SchemaLaws, RunningOutOfMemoryAnywhereFailsCleanly)
+{
+    State state(page());
+    std::vector<char> out(kBuffer);
+    cJSON_Hooks hooks{failing_malloc, free};
+    cJSON_InitHooks(&hooks);
+    budget = 1L << 40;
+    const int32_t rc = schema(state, out.data(), kBuffer);
+    const long needed = (1L << 40) - budget;
+    // Every allocation point in turn is the one that fails; nothing leaks
+    // (the sanitizer build checks that) and the buffer is not written.
+    for (long allowed = 0; allowed < needed; ++allowed) {
+        out[0] = 'x';
+        budget = allowed;
+        ASSERT_EQ(schema(state, out.data(), kBuffer), -1) << allowed << " of " << needed << " allocations";
+        ASSERT_EQ(out[0], 'x') << allowed << " allocations: a failed call wrote into the buffer";
+    }
+    cJSON_InitHooks(nullptr);
+    EXPECT_EQ(rc, 0);
+    EXPECT_GT(needed, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Catalog, SchemaLaws, ::testing::ValuesIn(described_pages()), entry_name);
+
 TEST(Catalog, ReadOnlyPagesSayWhy)
 {
     size_t settable = 0;

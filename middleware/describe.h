@@ -60,6 +60,12 @@
  *     an empty slot from a used one (an id of 0, an empty name) is no such
  *     decision: the slot's members stay settable.
  *
+ * A set request reads the body by exact key and refuses fractions, numbers
+ * out of range and repeated list indices. The exported request readers
+ * (get_json_section_type_*, get_json_array_struct_from_index) are the web
+ * server's own loose tools: they match keys without regard to case, truncate
+ * numbers and let a text index match 0, so In reads members itself.
+ *
  * Pages are declared with MW_PAGE / MW_SETTABLE_PAGE (internal.h), which
  * give the serializer, the set function and the schema function.
  */

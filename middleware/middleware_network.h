@@ -228,8 +228,7 @@ typedef struct network_anr_info_record {
     int32_t anrStatus;
 } network_anr_info_record;
 
-/* The users logged in now. Only the first onlineUserCount slots are read;
-   the producer keeps the count within 0..30 (it is not clamped). */
+/* The users logged in now: the first onlineUserCount slots. */
 typedef struct network_online_users_record {
     int32_t onlineUserCount;
     char onlineUserName[30][128];
@@ -317,8 +316,8 @@ MW_API int32_t get_network_more_json(const network_more_record *in, char *dst, i
 MW_API int32_t get_network_rtmp_json(const network_rtmp_record *in, char *dst, int32_t dstSize);
 /* "anrMac", "anrIp", "anrStatus". */
 MW_API int32_t get_network_anr_info_json(const network_anr_info_record *in, char *dst, int32_t dstSize);
-/* "onlineUserList": one object per user for i < onlineUserCount (none for a
-   count of 0 or below). */
+/* "onlineUserList": one object per user for i < onlineUserCount, at most the
+   30 slots (none for a count of 0 or below). */
 MW_API int32_t get_network_online_users_json(const network_online_users_record *in, char *dst,
                                              int32_t dstSize);
 /* Server first, then the addresses; "serverSsl" combines the two bits and

@@ -549,7 +549,7 @@ typedef struct vca_regional_auto_export_record {
 } vca_regional_auto_export_record;
 
 /* Person tracks of the last interval: element i of each array belongs to
-   track i; personNum tracks are valid (the producer keeps it within 256). */
+   track i; the first personNum tracks are valid. */
 typedef struct vca_person_point_record {
     int32_t reserved[2];                 /* not in the document */
     int32_t personNum;
@@ -572,8 +572,8 @@ typedef struct vca_people_counting_data_record {
 
 /* The people now in the regions: num[r] per region (0..3), then per person
    (0..49) the box left/top/right/bottom, the stay states and stayTime[i][r],
-   the seconds person i has spent in region r. peopleCount entries are valid
-   (the producer keeps it within 50). `class` is the person's class code. */
+   the seconds person i has spent in region r. The first peopleCount entries
+   are valid. `class` is the person's class code. */
 typedef struct vca_regional_people_data_record {
     int32_t regionsAlarmStatus;
     int32_t regionsStayAlarmStatus;
@@ -601,14 +601,15 @@ MW_API int32_t get_vca_region_people_json(const vca_region_people_record *in, ch
 /* The export time as one text "hh:mm:ss" ("%02d" each, signed). */
 MW_API int32_t get_vca_regional_auto_export_json(const vca_regional_auto_export_record *in, char *dst,
                                                  int32_t dstSize);
-/* "personNum" and "personList" with the first personNum tracks (none when it
-   is 0 or negative). */
+/* "personNum" as stored and "personList" with the first personNum tracks,
+   at most the 256 the arrays hold (none when it is 0 or negative). */
 MW_API int32_t get_vca_person_point_json(const vca_person_point_record *in, char *dst, int32_t dstSize);
 /* "peopleList": the counters of the 4 lines. */
 MW_API int32_t get_vca_people_counting_data_json(const vca_people_counting_data_record *in, char *dst,
                                                  int32_t dstSize);
 /* Region states, "peopleNumList" (4), then "peopleDataInfo" with the first
-   peopleCount people (none when 0 or negative), each with its 4 stay times.
+   peopleCount people, at most the 50 the arrays hold (none when 0 or
+   negative), each with its 4 stay times.
    "exsitStatus" keeps its historic spelling. */
 MW_API int32_t get_vca_regional_people_data_json(const vca_regional_people_data_record *in, char *dst,
                                                  int32_t dstSize);

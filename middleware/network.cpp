@@ -241,7 +241,8 @@ int32_t get_network_online_users_json(const network_online_users_record *in, cha
 {
     return mw::document(dst, dstSize, [in](cJSON *root) {
         cJSON *list = mw::array(root, "onlineUserList");
-        for (int32_t i = 0; i < in->onlineUserCount; ++i) {
+        // The list stops at the 30 slots whatever the count says.
+        for (int32_t i = 0; i < in->onlineUserCount && i < 30; ++i) {
             cJSON *user = mw::append_object(list);
             add(user, "onlineUserName", in->onlineUserName[i]);
             add(user, "onlineUserLevel", in->onlineUserLevel[i]);

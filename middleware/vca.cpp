@@ -571,9 +571,9 @@ int32_t get_vca_person_point_json(const vca_person_point_record *in, char *dst, 
     return mw::document(dst, dstSize, [in](cJSON *root) {
         add(root, "personNum", in->personNum);
         cJSON *people = mw::array(root, "personList");
-        // personNum is the producer's count of valid tracks, kept within the
-        // arrays by the producer; 0 or below gives an empty list.
-        for (int32_t i = 0; i < in->personNum; ++i) {
+        // personNum counts the valid tracks and is printed as stored; the
+        // list stops at the arrays whatever it says (0 or below: empty).
+        for (int32_t i = 0; i < in->personNum && i < 256; ++i) {
             cJSON *person = mw::append_object(people);
             add(person, "id", in->id[i]);
             add(person, "type", in->type[i]);
@@ -613,9 +613,9 @@ int32_t get_vca_regional_people_data_json(const vca_regional_people_data_record 
             add(region, "num", in->num[r]);
         }
         cJSON *people = mw::array(root, "peopleDataInfo");
-        // peopleCount is the producer's count of valid entries, kept within
-        // the arrays by the producer; 0 or below gives an empty list.
-        for (int32_t i = 0; i < in->peopleCount; ++i) {
+        // peopleCount counts the valid entries; the list stops at the
+        // arrays whatever it says (0 or below: empty).
+        for (int32_t i = 0; i < in->peopleCount && i < 50; ++i) {
             cJSON *person = mw::append_object(people);
             add(person, "id", in->id[i]);
             add(person, "class", in->class_[i]);

@@ -139,7 +139,9 @@ TEST(NetworkOnlineUsers, CountDecidesTheListLength)
         put(r.onlineUserIp[i], ("10.0.0." + str(i)).c_str());
         put(r.onlineUserTime[i], ("t" + str(i)).c_str());
     }
-    struct { int32_t count; int objects; } cases[] = {{INT32_MIN, 0}, {-1, 0}, {0, 0}, {1, 1}, {30, 30}};
+    // A count above the 30 slots lists the 30 and no more.
+    struct { int32_t count; int objects; } cases[] = {{INT32_MIN, 0}, {-1, 0}, {0, 0}, {1, 1}, {29, 29}, {30, 30},
+                                                      {31, 30}, {INT32_MAX, 30}};
     for (const auto &c : cases) {
         SCOPED_TRACE("count " + str(c.count));
         r.onlineUserCount = c.count;

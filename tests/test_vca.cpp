@@ -568,17 +568,18 @@ TEST(VcaAutoExport, RegionalExportTimeText)
 }
 
 // Word 2 is personNum, then seven arrays of 256 from word 3. The list holds
-// personNum tracks, none when it is 0 or negative.
+// personNum tracks, none when it is 0 or negative, and stops at the arrays
+// for a larger count, which is still printed as stored.
 TEST(VcaPersonPoints, ListFollowsPersonNum)
 {
     const char *const keys[] = {"id", "type", "startX", "startY", "stopX", "stopY", "alarmRegion"};
     auto in = filled<vca_person_point_record>();
-    for (int32_t count : {INT32_MIN, -1, 0, 1, 256}) {
+    for (int32_t count : {INT32_MIN, -1, 0, 1, 255, 256, 257, INT32_MAX}) {
         SCOPED_TRACE(count);
         in->personNum = count;
         test::Json doc(render(*in, get_vca_person_point_json));
         test::expect_members(doc.root(), {N("personNum", count), A("personList")});
-        expect_list(doc["personList"], items(count > 0 ? count : 0, [&](int i) {
+        expect_list(doc["personList"], items(std::min(std::max(count, 0), 256), [&](int i) {
                         Members want;
                         for (int k = 0; k < 7; ++k)
                             want.push_back(N(keys[k], value(3 + 256 * k + i)));
@@ -599,12 +600,13 @@ TEST(VcaPeopleCountingData, FourLines)
 }
 
 // Words: two states, num[4] from 2, eight arrays of 50 from 6, stayTime[50][4]
-// from 406, then peopleCount. Each person has four stays, without index.
+// from 406, then peopleCount. Each person has four stays, without index. The
+// list stops at the 50 entries whatever peopleCount says.
 TEST(VcaRegionalPeopleData, RegionsThenPeopleWithFourStays)
 {
     const char *const keys[] = {"id", "class", "left", "top", "right", "bottom", "stayAlarmStatus", "exsitStatus"};
     auto in = filled<vca_regional_people_data_record>();
-    for (int32_t count : {-5, 0, 1, 50}) {
+    for (int32_t count : {-5, 0, 1, 49, 50, 51, INT32_MAX}) {
         SCOPED_TRACE(count);
         in->peopleCount = count;
         test::Json doc(render(*in, get_vca_regional_people_data_json));
@@ -612,7 +614,7 @@ TEST(VcaRegionalPeopleData, RegionsThenPeopleWithFourStays)
                                           A("peopleNumList"), A("peopleDataInfo")});
         expect_list(doc["peopleNumList"],
                     items(4, [](int r) { return Members{N("region", r), N("num", value(2 + r))}; }));
-        const int people = count > 0 ? count : 0;
+        const int people = std::min(std::max(count, 0), 50);
         expect_list(doc["peopleDataInfo"], items(people, [&](int i) {
                         Members want;
                         for (int k = 0; k < 8; ++k)

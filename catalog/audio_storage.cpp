@@ -43,49 +43,43 @@ storage_record_settings_record sample_record_settings()
     return r;
 }
 
+audio_info_record sample_audio_info()
+{
+    audio_info_record a{};
+    a.enable = 1;
+    a.codec = 1;
+    a.source = 0;
+    a.mode = 2;
+    a.denoise = 1;
+    a.inputGain = 60;
+    a.alarmLevel = 75;
+    a.outputAgc = 1;
+    a.outputVolume = 80;
+    a.sampleRate = 16000;
+    a.bitRate = 64;
+    a.externCodecType = 0;
+    return a;
+}
+
+audio_file_record sample_audio_file()
+{
+    audio_file_record a{};
+    a.audioFileStorageType = 0;
+    put(a.audioFileName[0], "warning_private_property.wav");
+    put(a.audioFileName[1], "please_leave_the_area.wav");
+    put(a.audioFileName[3], "gate_closing.wav");
+    return a;
+}
+
 const CatalogEntry entries[] = {
-    {"get_audio_info_json", "audio input and output settings",
-     [](char *dst, int32_t n) {
-         static const audio_info_record r = [] {
-             audio_info_record a{};
-             a.enable = 1;
-             a.codec = 1;
-             a.source = 0;
-             a.mode = 2;
-             a.denoise = 1;
-             a.inputGain = 60;
-             a.alarmLevel = 75;
-             a.outputAgc = 1;
-             a.outputVolume = 80;
-             a.sampleRate = 16000;
-             a.bitRate = 64;
-             a.externCodecType = 0;
-             return a;
-         }();
-         return get_audio_info_json(&r, dst, n);
-     }},
-    {"get_audio_file_json", "the stored alarm audio files",
-     [](char *dst, int32_t n) {
-         static const audio_file_record r = [] {
-             audio_file_record a{};
-             a.audioFileStorageType = 0;
-             put(a.audioFileName[0], "warning_private_property.wav");
-             put(a.audioFileName[1], "please_leave_the_area.wav");
-             put(a.audioFileName[3], "gate_closing.wav");
-             return a;
-         }();
-         return get_audio_file_json(&r, dst, n);
-     }},
-    {"get_storage_settings_json", "SD card state and network storage slots",
-     [](char *dst, int32_t n) {
-         static const storage_settings_record r = sample_storage();
-         return get_storage_settings_json(&r, dst, n);
-     }},
-    {"get_storage_record_settings_json", "recording settings and the weekly recording schedule",
-     [](char *dst, int32_t n) {
-         static const storage_record_settings_record r = sample_record_settings();
-         return get_storage_record_settings_json(&r, dst, n);
-     }},
+    MW_SETTABLE_ENTRY(audio_info, "audio input and output settings",
+                      (kept<audio_info_record, sample_audio_info>)),
+    MW_READ_ONLY_ENTRY(audio_file, "the stored alarm audio files", "the files stored on the camera",
+                       (kept<audio_file_record, sample_audio_file>)),
+    MW_SETTABLE_ENTRY(storage_settings, "SD card state and network storage slots",
+                      (kept<storage_settings_record, sample_storage>)),
+    MW_SETTABLE_ENTRY(storage_record_settings, "recording settings and the weekly recording schedule",
+                      (kept<storage_record_settings_record, sample_record_settings>)),
 };
 
 } // namespace

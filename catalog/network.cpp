@@ -288,188 +288,156 @@ network_cellular_info_record sample_cellular()
     return r;
 }
 
+network_vlan_record sample_network_vlan()
+{
+    network_vlan_record v{};
+    v.vlanEnable = 1;
+    v.vlanId = 120;
+    put(v.vlanIp, "10.120.0.64");
+    put(v.vlanNetmask, "255.255.255.0");
+    put(v.vlanGateway, "10.120.0.1");
+    return v;
+}
+
+network_pppoe_record sample_network_pppoe()
+{
+    network_pppoe_record p{};
+    p.pppoeEnable = 1;
+    put(p.pppoeUsername, "northfield@broadband.example");
+    put(p.pppoeIp, "198.51.100.23");
+    p.pppoeReload = 0;
+    return p;
+}
+
+network_bonjour_record sample_network_bonjour()
+{
+    network_bonjour_record b{};
+    b.enable = 1;
+    put(b.name, "Gate North Entry");
+    return b;
+}
+
+network_rtmp_record sample_network_rtmp()
+{
+    network_rtmp_record m{};
+    m.enable = 1;
+    m.streamType = 1;
+    put(m.server, "rtmp://live.northfield-carparks.example/gates/north-entry");
+    return m;
+}
+
+network_anr_info_record sample_network_anr_info()
+{
+    network_anr_info_record a{};
+    put(a.anrMac, "00:1c:27:10:02:5e");
+    put(a.anrIp, "192.168.1.200");
+    a.anrStatus = 1;
+    return a;
+}
+
+network_rtsp_record sample_network_rtsp()
+{
+    network_rtsp_record s{};
+    put(s.multicastGroupAddress, "239.1.1.64");
+    s.multicastPort[0] = 20000;
+    s.multicastPort[1] = 20002;
+    s.multicastPort[2] = 20004;
+    s.multicastPort[3] = 20006;
+    s.rtspPort = 554;
+    s.rtspPlaybackPort = 555;
+    s.qosDscp = 46;
+    s.rtpPacketSize = 1400;
+    return s;
+}
+
+network_8021x_record sample_network_8021x()
+{
+    network_8021x_record x{};
+    x.enable = 1;
+    put(x.username, "cam-gate-north");
+    put(x.password, "Md5Secret!");
+    x.eapolver = 1;
+    return x;
+}
+
+network_more_record sample_network_more()
+{
+    network_more_record m{};
+    m.onvifEnable = 1;
+    m.pushEnable = 1;
+    m.pushType = 2;
+    put(m.modulePush[0].moduleName, "alarm");
+    m.modulePush[0].push = 1;
+    return m;
+}
+
+network_sip_white_list_record sample_network_sip_white_list()
+{
+    network_sip_white_list_record w{};
+    w.enable = 1;
+    w.phoneType[0] = 0;
+    put(w.phoneNumber[0], "6001");
+    w.phoneType[1] = 0;
+    put(w.phoneNumber[1], "6010");
+    // slot 2 was freed when the old gatehouse extension went
+    w.phoneType[3] = 1;
+    put(w.phoneNumber[3], "907700900123");
+    return w;
+}
+
+// The page points at the SIP service's own settings, which live as long as
+// the program.
+network_sip_settings_record sample_sip_settings()
+{
+    static const sip_settings settings = sample_sip();
+    return network_sip_settings_record{&settings, 1};
+}
+
 const CatalogEntry entries[] = {
-    {"get_network_tcp_json", "IPv4 and IPv6 addresses, DNS and MTU",
-     [](char *dst, int32_t n) {
-         static const network_tcp_record r = sample_tcp();
-         return get_network_tcp_json(&r, dst, n);
-     }},
-    {"get_network_http_json", "HTTP and HTTPS ports and the installed certificate",
-     [](char *dst, int32_t n) {
-         static const network_http_record r = sample_http();
-         return get_network_http_json(&r, dst, n);
-     }},
-    {"get_network_upnp_json", "UPnP port mapping: external and internal ports and their states",
-     [](char *dst, int32_t n) {
-         static const network_upnp_record r = sample_upnp();
-         return get_network_upnp_json(&r, dst, n);
-     }},
-    {"get_network_vlan_json", "VLAN tag and the address inside the VLAN",
-     [](char *dst, int32_t n) {
-         static const network_vlan_record r = [] {
-             network_vlan_record v{};
-             v.vlanEnable = 1;
-             v.vlanId = 120;
-             put(v.vlanIp, "10.120.0.64");
-             put(v.vlanNetmask, "255.255.255.0");
-             put(v.vlanGateway, "10.120.0.1");
-             return v;
-         }();
-         return get_network_vlan_json(&r, dst, n);
-     }},
-    {"get_network_pppoe_json", "PPPoE account and the address of the link",
-     [](char *dst, int32_t n) {
-         static const network_pppoe_record r = [] {
-             network_pppoe_record p{};
-             p.pppoeEnable = 1;
-             put(p.pppoeUsername, "northfield@broadband.example");
-             put(p.pppoeIp, "198.51.100.23");
-             p.pppoeReload = 0;
-             return p;
-         }();
-         return get_network_pppoe_json(&r, dst, n);
-     }},
-    {"get_network_ddns_json", "dynamic DNS account, host name and published ports",
-     [](char *dst, int32_t n) {
-         static const network_ddns_record r = sample_ddns();
-         return get_network_ddns_json(&r, dst, n);
-     }},
-    {"get_network_rtsp_json", "RTSP ports, multicast group and ports, QoS mark",
-     [](char *dst, int32_t n) {
-         static const network_rtsp_record r = [] {
-             network_rtsp_record s{};
-             put(s.multicastGroupAddress, "239.1.1.64");
-             s.multicastPort[0] = 20000;
-             s.multicastPort[1] = 20002;
-             s.multicastPort[2] = 20004;
-             s.multicastPort[3] = 20006;
-             s.rtspPort = 554;
-             s.rtspPlaybackPort = 555;
-             s.qosDscp = 46;
-             s.rtpPacketSize = 1400;
-             return s;
-         }();
-         return get_network_rtsp_json(&r, dst, n);
-     }},
-    {"get_network_snmp_json", "SNMP communities and v3 users",
-     [](char *dst, int32_t n) {
-         static const network_snmp_record r = sample_snmp();
-         return get_network_snmp_json(&r, dst, n);
-     }},
-    {"get_network_8021x_json", "IEEE 802.1X port authentication",
-     [](char *dst, int32_t n) {
-         static const network_8021x_record r = [] {
-             network_8021x_record x{};
-             x.enable = 1;
-             put(x.username, "cam-gate-north");
-             put(x.password, "Md5Secret!");
-             x.eapolver = 1;
-             return x;
-         }();
-         return get_network_8021x_json(&r, dst, n);
-     }},
-    {"get_network_bonjour_json", "Bonjour announcement and its name",
-     [](char *dst, int32_t n) {
-         static const network_bonjour_record r = [] {
-             network_bonjour_record b{};
-             b.enable = 1;
-             put(b.name, "Gate North Entry");
-             return b;
-         }();
-         return get_network_bonjour_json(&r, dst, n);
-     }},
-    {"get_network_platform_json", "registration with the remote video platform",
-     [](char *dst, int32_t n) {
-         static const network_platform_record r = sample_platform();
-         return get_network_platform_json(&r, dst, n);
-     }},
-    {"get_network_more_json", "ONVIF, push service and the per-module push switches",
-     [](char *dst, int32_t n) {
-         static const network_more_record r = [] {
-             network_more_record m{};
-             m.onvifEnable = 1;
-             m.pushEnable = 1;
-             m.pushType = 2;
-             put(m.modulePush[0].moduleName, "alarm");
-             m.modulePush[0].push = 1;
-             return m;
-         }();
-         return get_network_more_json(&r, dst, n);
-     }},
-    {"get_network_rtmp_json", "publishing a stream to an RTMP server",
-     [](char *dst, int32_t n) {
-         static const network_rtmp_record r = [] {
-             network_rtmp_record m{};
-             m.enable = 1;
-             m.streamType = 1;
-             put(m.server, "rtmp://live.northfield-carparks.example/gates/north-entry");
-             return m;
-         }();
-         return get_network_rtmp_json(&r, dst, n);
-     }},
-    {"get_network_anr_info_json", "peer that refills recording gaps after a network loss",
-     [](char *dst, int32_t n) {
-         static const network_anr_info_record r = [] {
-             network_anr_info_record a{};
-             put(a.anrMac, "00:1c:27:10:02:5e");
-             put(a.anrIp, "192.168.1.200");
-             a.anrStatus = 1;
-             return a;
-         }();
-         return get_network_anr_info_json(&r, dst, n);
-     }},
-    {"get_network_online_users_json", "users logged in now, with level, address and login time",
-     [](char *dst, int32_t n) {
-         static const network_online_users_record r = sample_online_users();
-         return get_network_online_users_json(&r, dst, n);
-     }},
-    {"get_network_smtp_boot_notify_json", "mail sent when the camera boots",
-     [](char *dst, int32_t n) {
-         static const network_smtp_boot_notify_record r = sample_smtp_boot_notify();
-         return get_network_smtp_boot_notify_json(&r, dst, n);
-     }},
-    {"get_network_sip_settings_json", "SIP intercom account, call settings and registration state",
-     [](char *dst, int32_t n) {
-         static const sip_settings settings = sample_sip();
-         static const network_sip_settings_record r = {&settings, 1};
-         return get_network_sip_settings_json(&r, dst, n);
-     }},
-    {"get_network_sip_alarm_phone_list_json", "phones called on an alarm, with their time windows",
-     [](char *dst, int32_t n) {
-         static const network_sip_alarm_phone_list_record r = sample_sip_alarm_phones();
-         return get_network_sip_alarm_phone_list_json(&r, dst, n);
-     }},
-    {"get_network_sip_white_list_json", "numbers allowed to call the camera",
-     [](char *dst, int32_t n) {
-         static const network_sip_white_list_record r = [] {
-             network_sip_white_list_record w{};
-             w.enable = 1;
-             w.phoneType[0] = 0;
-             put(w.phoneNumber[0], "6001");
-             w.phoneType[1] = 0;
-             put(w.phoneNumber[1], "6010");
-             // slot 2 was freed when the old gatehouse extension went
-             w.phoneType[3] = 1;
-             put(w.phoneNumber[3], "907700900123");
-             return w;
-         }();
-         return get_network_sip_white_list_json(&r, dst, n);
-     }},
-    {"get_network_stream_url_json", "RTSP and HTTP addresses of the six streams",
-     [](char *dst, int32_t n) {
-         static const network_stream_url_record r = sample_stream_url();
-         return get_network_stream_url_json(&r, dst, n);
-     }},
-    {"get_network_vpn_json", "VPN client settings and the state of the tunnel",
-     [](char *dst, int32_t n) {
-         static const network_vpn_record r = sample_vpn();
-         return get_network_vpn_json(&r, dst, n);
-     }},
-    {"get_network_cellular_info_json", "cellular modem settings and status",
-     [](char *dst, int32_t n) {
-         static const network_cellular_info_record r = sample_cellular();
-         return get_network_cellular_info_json(&r, dst, n);
-     }},
+    MW_SETTABLE_ENTRY(network_tcp, "IPv4 and IPv6 addresses, DNS and MTU",
+                      (kept<network_tcp_record, sample_tcp>)),
+    MW_SETTABLE_ENTRY(network_http, "HTTP and HTTPS ports and the installed certificate",
+                      (kept<network_http_record, sample_http>)),
+    MW_SETTABLE_ENTRY(network_upnp, "UPnP port mapping: external and internal ports and their states",
+                      (kept<network_upnp_record, sample_upnp>)),
+    MW_SETTABLE_ENTRY(network_vlan, "VLAN tag and the address inside the VLAN",
+                      (kept<network_vlan_record, sample_network_vlan>)),
+    MW_SETTABLE_ENTRY(network_pppoe, "PPPoE account and the address of the link",
+                      (kept<network_pppoe_record, sample_network_pppoe>)),
+    MW_SETTABLE_ENTRY(network_ddns, "dynamic DNS account, host name and published ports",
+                      (kept<network_ddns_record, sample_ddns>)),
+    MW_SETTABLE_ENTRY(network_rtsp, "RTSP ports, multicast group and ports, QoS mark",
+                      (kept<network_rtsp_record, sample_network_rtsp>)),
+    MW_SETTABLE_ENTRY(network_snmp, "SNMP communities and v3 users",
+                      (kept<network_snmp_record, sample_snmp>)),
+    MW_SETTABLE_ENTRY(network_8021x, "IEEE 802.1X port authentication",
+                      (kept<network_8021x_record, sample_network_8021x>)),
+    MW_SETTABLE_ENTRY(network_bonjour, "Bonjour announcement and its name",
+                      (kept<network_bonjour_record, sample_network_bonjour>)),
+    MW_SETTABLE_ENTRY(network_platform, "registration with the remote video platform",
+                      (kept<network_platform_record, sample_platform>)),
+    MW_SETTABLE_ENTRY(network_more, "ONVIF, push service and the per-module push switches",
+                      (kept<network_more_record, sample_network_more>)),
+    MW_SETTABLE_ENTRY(network_rtmp, "publishing a stream to an RTMP server",
+                      (kept<network_rtmp_record, sample_network_rtmp>)),
+    MW_READ_ONLY_ENTRY(network_anr_info, "peer that refills recording gaps after a network loss", "live recorder link state",
+                       (kept<network_anr_info_record, sample_network_anr_info>)),
+    MW_READ_ONLY_ENTRY(network_online_users, "users logged in now, with level, address and login time", "who is logged in now",
+                       (kept<network_online_users_record, sample_online_users>)),
+    MW_SETTABLE_ENTRY(network_smtp_boot_notify, "mail sent when the camera boots",
+                      (kept<network_smtp_boot_notify_record, sample_smtp_boot_notify>)),
+    MW_SETTABLE_ENTRY(network_sip_settings, "SIP intercom account, call settings and registration state",
+                      (kept<network_sip_settings_record, sample_sip_settings>)),
+    MW_SETTABLE_ENTRY(network_sip_alarm_phone_list, "phones called on an alarm, with their time windows",
+                      (kept<network_sip_alarm_phone_list_record, sample_sip_alarm_phones>)),
+    MW_SETTABLE_ENTRY(network_sip_white_list, "numbers allowed to call the camera",
+                      (kept<network_sip_white_list_record, sample_network_sip_white_list>)),
+    MW_READ_ONLY_ENTRY(network_stream_url, "RTSP and HTTP addresses of the six streams", "addresses the camera serves",
+                       (kept<network_stream_url_record, sample_stream_url>)),
+    MW_SETTABLE_ENTRY(network_vpn, "VPN client settings and the state of the tunnel",
+                      (kept<network_vpn_record, sample_vpn>)),
+    MW_READ_ONLY_ENTRY(network_cellular_info, "cellular modem settings and status", "live cellular state",
+                       (kept<network_cellular_info_record, sample_cellular>)),
 };
 
 } // namespace

@@ -75,7 +75,7 @@ typedef struct storage_record_settings_record {
 MW_API int32_t get_audio_info_json(const audio_info_record *in, char *dst, int32_t dstSize);
 MW_API int32_t schema_audio_info_json(const audio_info_record *in, char *dst, int32_t dstSize);
 MW_API int32_t set_audio_info_json(audio_info_record *record, const char *body, int32_t bodySize, char *dst,
-                            int32_t dstSize);
+                                   int32_t dstSize);
 /* "audioFileStorageType", then one "audioFileName_<slot>" per used slot: the
    key keeps the slot number (0 to 4), so free slots leave gaps. */
 MW_API int32_t get_audio_file_json(const audio_file_record *in, char *dst, int32_t dstSize);
@@ -85,13 +85,14 @@ MW_API int32_t schema_audio_file_json(const audio_file_record *in, char *dst, in
 MW_API int32_t get_storage_settings_json(const storage_settings_record *in, char *dst, int32_t dstSize);
 MW_API int32_t schema_storage_settings_json(const storage_settings_record *in, char *dst, int32_t dstSize);
 MW_API int32_t set_storage_settings_json(storage_settings_record *record, const char *body, int32_t bodySize, char *dst,
-                            int32_t dstSize);
+                                         int32_t dstSize);
 /* Three numbers, then "scheduleList": seven days, "scheduleIndex" 0 to 6. */
 MW_API int32_t get_storage_record_settings_json(const storage_record_settings_record *in, char *dst,
                                                 int32_t dstSize);
-MW_API int32_t schema_storage_record_settings_json(const storage_record_settings_record *in, char *dst, int32_t dstSize);
-MW_API int32_t set_storage_record_settings_json(storage_record_settings_record *record, const char *body, int32_t bodySize, char *dst,
-                            int32_t dstSize);
+MW_API int32_t schema_storage_record_settings_json(const storage_record_settings_record *in, char *dst,
+                                                   int32_t dstSize);
+MW_API int32_t set_storage_record_settings_json(storage_record_settings_record *record, const char *body,
+                                                int32_t bodySize, char *dst, int32_t dstSize);
 
 /* ===== end audio and storage ===== */
 

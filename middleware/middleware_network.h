@@ -151,26 +151,56 @@ typedef struct network_bonjour_record {
 /* One flat object each, keys in the page's order (which is not always the
    record's). "ipv6netmask" is a number, "ipv4netmask" a string. */
 MW_API int32_t get_network_tcp_json(const network_tcp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_tcp_json(const network_tcp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_tcp_json(network_tcp_record *record, const char *body, int32_t bodySize, char *dst,
+                                    int32_t dstSize);
 /* "httpEnable" comes before "httpPort". */
 MW_API int32_t get_network_http_json(const network_http_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_http_json(const network_http_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_http_json(network_http_record *record, const char *body, int32_t bodySize, char *dst,
+                                     int32_t dstSize);
 /* 16 members: switches, name and type, then the twelve ports and states in
    record order ("upnpPlayBackPort" with a capital B). */
 MW_API int32_t get_network_upnp_json(const network_upnp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_upnp_json(const network_upnp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_upnp_json(network_upnp_record *record, const char *body, int32_t bodySize, char *dst,
+                                     int32_t dstSize);
 /* "vlanEnable", "vlanId", then the three addresses. */
 MW_API int32_t get_network_vlan_json(const network_vlan_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_vlan_json(const network_vlan_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_vlan_json(network_vlan_record *record, const char *body, int32_t bodySize, char *dst,
+                                     int32_t dstSize);
 /* No password is written. */
 MW_API int32_t get_network_pppoe_json(const network_pppoe_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_pppoe_json(const network_pppoe_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_pppoe_json(network_pppoe_record *record, const char *body, int32_t bodySize, char *dst,
+                                      int32_t dstSize);
 /* 13 members; "httpPort", "rtspPort", "playbackPort" unsigned; "status" comes
    before the two oem members although it is stored last. */
 MW_API int32_t get_network_ddns_json(const network_ddns_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_ddns_json(const network_ddns_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_ddns_json(network_ddns_record *record, const char *body, int32_t bodySize, char *dst,
+                                     int32_t dstSize);
 /* Always four members multicastPort_0 .. multicastPort_3. */
 MW_API int32_t get_network_rtsp_json(const network_rtsp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_rtsp_json(const network_rtsp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_rtsp_json(network_rtsp_record *record, const char *body, int32_t bodySize, char *dst,
+                                     int32_t dstSize);
 /* "enableV3" is written after the two communities. */
 MW_API int32_t get_network_snmp_json(const network_snmp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_snmp_json(const network_snmp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_snmp_json(network_snmp_record *record, const char *body, int32_t bodySize, char *dst,
+                                     int32_t dstSize);
 /* "protocol" is always "EAP-MD5"; "eapolver" is the stored byte plus 1. */
 MW_API int32_t get_network_8021x_json(const network_8021x_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_8021x_json(const network_8021x_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_8021x_json(network_8021x_record *record, const char *body, int32_t bodySize, char *dst,
+                                      int32_t dstSize);
 /* "enable" (unsigned byte) and "name". */
 MW_API int32_t get_network_bonjour_json(const network_bonjour_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_bonjour_json(const network_bonjour_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_bonjour_json(network_bonjour_record *record, const char *body, int32_t bodySize, char *dst,
+                                        int32_t dstSize);
 
 /* ---- platform, push, online users, mail and SIP ---- */
 
@@ -308,32 +338,57 @@ typedef struct network_sip_white_list_record {
 
 /* 16 members in record order; the password is written as stored. */
 MW_API int32_t get_network_platform_json(const network_platform_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_platform_json(const network_platform_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_platform_json(network_platform_record *record, const char *body, int32_t bodySize, char *dst,
+                                         int32_t dstSize);
 /* "newModulePush" holds one member for module 0, keyed by the platform
    library's name for it (a module the platform does not name adds nothing:
    cJSON refuses a member without a key). */
 MW_API int32_t get_network_more_json(const network_more_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_more_json(const network_more_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_more_json(network_more_record *record, const char *body, int32_t bodySize, char *dst,
+                                     int32_t dstSize);
 /* "enable", "streamType" (unsigned bytes), "server". */
 MW_API int32_t get_network_rtmp_json(const network_rtmp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_rtmp_json(const network_rtmp_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_rtmp_json(network_rtmp_record *record, const char *body, int32_t bodySize, char *dst,
+                                     int32_t dstSize);
 /* "anrMac", "anrIp", "anrStatus". */
 MW_API int32_t get_network_anr_info_json(const network_anr_info_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_anr_info_json(const network_anr_info_record *in, char *dst, int32_t dstSize);
 /* "onlineUserList": one object per user for i < onlineUserCount, at most the
    30 slots (none for a count of 0 or below). */
 MW_API int32_t get_network_online_users_json(const network_online_users_record *in, char *dst,
                                              int32_t dstSize);
+MW_API int32_t schema_network_online_users_json(const network_online_users_record *in, char *dst, int32_t dstSize);
 /* Server first, then the addresses; "serverSsl" combines the two bits and
    "serverPort" is unsigned. */
 MW_API int32_t get_network_smtp_boot_notify_json(const network_smtp_boot_notify_record *in, char *dst,
                                                  int32_t dstSize);
+MW_API int32_t schema_network_smtp_boot_notify_json(const network_smtp_boot_notify_record *in, char *dst,
+                                                    int32_t dstSize);
+MW_API int32_t set_network_smtp_boot_notify_json(network_smtp_boot_notify_record *record, const char *body,
+                                                 int32_t bodySize, char *dst, int32_t dstSize);
 /* Reads *in->settings, then "sipStatus" last. */
 MW_API int32_t get_network_sip_settings_json(const network_sip_settings_record *in, char *dst,
                                              int32_t dstSize);
+MW_API int32_t schema_network_sip_settings_json(const network_sip_settings_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_sip_settings_json(network_sip_settings_record *record, const char *body, int32_t bodySize,
+                                             char *dst, int32_t dstSize);
 /* "sipAlarmPhoneList": slots from 0 up to the first empty number, each with
    its "phoneIndex" and "phoneDuration" as HHMMHHMM (start, end). */
 MW_API int32_t get_network_sip_alarm_phone_list_json(const network_sip_alarm_phone_list_record *in, char *dst,
                                                      int32_t dstSize);
+MW_API int32_t schema_network_sip_alarm_phone_list_json(const network_sip_alarm_phone_list_record *in, char *dst,
+                                                        int32_t dstSize);
+MW_API int32_t set_network_sip_alarm_phone_list_json(network_sip_alarm_phone_list_record *record, const char *body,
+                                                     int32_t bodySize, char *dst, int32_t dstSize);
 /* "sipWhiteList": every slot with a number, "phoneIndex" the slot (0..4). */
 MW_API int32_t get_network_sip_white_list_json(const network_sip_white_list_record *in, char *dst,
                                                int32_t dstSize);
+MW_API int32_t schema_network_sip_white_list_json(const network_sip_white_list_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_sip_white_list_json(network_sip_white_list_record *record, const char *body,
+                                               int32_t bodySize, char *dst, int32_t dstSize);
 
 /* ---- stream addresses, VPN and cellular ---- */
 
@@ -402,12 +457,17 @@ typedef struct network_cellular_info_record {
 /* "rtspStreamUrl" and "httpStreamUrl": six objects each, {"url"}, empty
    addresses included. */
 MW_API int32_t get_network_stream_url_json(const network_stream_url_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_stream_url_json(const network_stream_url_record *in, char *dst, int32_t dstSize);
 /* "mode" follows the texts; "duration" is an unsigned 64-bit number written
    as a JSON number (exact up to 2^53). */
 MW_API int32_t get_network_vpn_json(const network_vpn_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_network_vpn_json(const network_vpn_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_network_vpn_json(network_vpn_record *record, const char *body, int32_t bodySize, char *dst,
+                                    int32_t dstSize);
 /* 25 members; "pingDetection" comes after "billDay". */
 MW_API int32_t get_network_cellular_info_json(const network_cellular_info_record *in, char *dst,
                                               int32_t dstSize);
+MW_API int32_t schema_network_cellular_info_json(const network_cellular_info_record *in, char *dst, int32_t dstSize);
 
 /* ===== end network ===== */
 

@@ -7,379 +7,319 @@
 
 #include "zk_platform.h"
 
-using mw::add;
-
 namespace {
 
 /* A list of the six streams' addresses under `key`: one {"url"} object per
    stream, main stream first, empty addresses kept. */
-void add_stream_urls(cJSON *root, const char *key, const char (&urls)[6][256])
+template <typename A, typename Urls>
+void stream_urls(A &a, const char *key, Urls &urls)
 {
-    cJSON *list = mw::array(root, key);
-    for (int32_t i = 0; i <= 5; ++i)
-        add(mw::append_object(list), "url", urls[i]);
+    a.list(mw::Name::fixed(key), nullptr, [&](auto &l) {
+        for (int32_t i = 0; i <= 5; ++i)
+            l.item([&](auto &item) { item("url", urls[i]); });
+    });
 }
 
 } // namespace
 
 /* ---- network services ---- */
 
-int32_t get_network_tcp_json(const network_tcp_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "ipv4Ipaddress", in->ipv4Ipaddress);
-        add(root, "ipv4netmask", in->ipv4netmask);
-        add(root, "ipv4DhcpEnable", in->ipv4DhcpEnable);
-        add(root, "ipv4gateway", in->ipv4gateway);
-        add(root, "dns0", in->dns0);
-        add(root, "mtuByte", in->mtuByte);
-        add(root, "ipv6Mode", in->ipv6Mode);
-        add(root, "ipv6Ipaddress", in->ipv6Ipaddress);
-        add(root, "ipv6netmask", in->ipv6netmask); // a prefix length, so a number
-        add(root, "ipv6gateway", in->ipv6gateway);
-    });
-}
+MW_SETTABLE_PAGE(network_tcp, [](auto &a, auto &r) {
+    a("ipv4Ipaddress", r.ipv4Ipaddress);
+    a("ipv4netmask", r.ipv4netmask);
+    a("ipv4DhcpEnable", r.ipv4DhcpEnable);
+    a("ipv4gateway", r.ipv4gateway);
+    a("dns0", r.dns0);
+    a("mtuByte", r.mtuByte);
+    a("ipv6Mode", r.ipv6Mode);
+    a("ipv6Ipaddress", r.ipv6Ipaddress);
+    a("ipv6netmask", r.ipv6netmask); // a prefix length, so a number
+    a("ipv6gateway", r.ipv6gateway);
+})
 
-int32_t get_network_http_json(const network_http_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "httpEnable", in->httpEnable);
-        add(root, "httpPort", in->httpPort);
-        add(root, "httpsEnable", in->httpsEnable);
-        add(root, "httpsPort", in->httpsPort);
-        add(root, "certSubject", in->certSubject);
-        add(root, "certDate", in->certDate);
-        add(root, "certResult", in->certResult);
-        add(root, "requestSubject", in->requestSubject);
-        add(root, "certUpdateFlag", in->certUpdateFlag);
-        add(root, "ipv4Ipaddress", in->ipv4Ipaddress);
-        add(root, "ipv6Ipaddress", in->ipv6Ipaddress);
-        add(root, "notBefore", in->notBefore);
-        add(root, "notAfter", in->notAfter);
-        add(root, "country", in->country);
-        add(root, "ST", in->ST);
-        add(root, "O", in->O);
-        add(root, "CN", in->CN);
-    });
-}
+MW_SETTABLE_PAGE(network_http, [](auto &a, auto &r) {
+    a("httpEnable", r.httpEnable);
+    a("httpPort", r.httpPort);
+    a("httpsEnable", r.httpsEnable);
+    a("httpsPort", r.httpsPort);
+    a("certSubject", r.certSubject);
+    a("certDate", r.certDate);
+    a("certResult", r.certResult);
+    a("requestSubject", r.requestSubject);
+    a("certUpdateFlag", r.certUpdateFlag);
+    a("ipv4Ipaddress", r.ipv4Ipaddress);
+    a("ipv6Ipaddress", r.ipv6Ipaddress);
+    a("notBefore", r.notBefore);
+    a("notAfter", r.notAfter);
+    a("country", r.country);
+    a("ST", r.ST);
+    a("O", r.O);
+    a("CN", r.CN);
+})
 
-int32_t get_network_upnp_json(const network_upnp_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "scanUpnpEnable", in->scanUpnpEnable);
-        add(root, "upnpEnable", in->upnpEnable);
-        add(root, "upnpName", in->upnpName);
-        add(root, "upnpType", in->upnpType);
-        add(root, "upnpHttpPort", in->upnpHttpPort);
-        add(root, "upnpHttpsPort", in->upnpHttpsPort);
-        add(root, "upnpRtspPort", in->upnpRtspPort);
-        add(root, "upnpPlayBackPort", in->upnpPlayBackPort); // capital B, unlike the internal port
-        add(root, "upnpHttpInterPort", in->upnpHttpInterPort);
-        add(root, "upnpHttpsInterPort", in->upnpHttpsInterPort);
-        add(root, "upnpRtspInterPort", in->upnpRtspInterPort);
-        add(root, "upnpPlaybackInterPort", in->upnpPlaybackInterPort);
-        add(root, "upnpHttpStatus", in->upnpHttpStatus);
-        add(root, "upnpHttpsStatus", in->upnpHttpsStatus);
-        add(root, "upnpRtspStatus", in->upnpRtspStatus);
-        add(root, "upnpPlaybackStatus", in->upnpPlaybackStatus);
-    });
-}
+MW_SETTABLE_PAGE(network_upnp, [](auto &a, auto &r) {
+    a("scanUpnpEnable", r.scanUpnpEnable);
+    a("upnpEnable", r.upnpEnable);
+    a("upnpName", r.upnpName);
+    a("upnpType", r.upnpType);
+    a("upnpHttpPort", r.upnpHttpPort);
+    a("upnpHttpsPort", r.upnpHttpsPort);
+    a("upnpRtspPort", r.upnpRtspPort);
+    a("upnpPlayBackPort", r.upnpPlayBackPort); // capital B, unlike the internal port
+    a("upnpHttpInterPort", r.upnpHttpInterPort);
+    a("upnpHttpsInterPort", r.upnpHttpsInterPort);
+    a("upnpRtspInterPort", r.upnpRtspInterPort);
+    a("upnpPlaybackInterPort", r.upnpPlaybackInterPort);
+    a("upnpHttpStatus", r.upnpHttpStatus);
+    a("upnpHttpsStatus", r.upnpHttpsStatus);
+    a("upnpRtspStatus", r.upnpRtspStatus);
+    a("upnpPlaybackStatus", r.upnpPlaybackStatus);
+})
 
-int32_t get_network_vlan_json(const network_vlan_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "vlanEnable", in->vlanEnable);
-        add(root, "vlanId", in->vlanId);
-        add(root, "vlanIp", in->vlanIp);
-        add(root, "vlanNetmask", in->vlanNetmask);
-        add(root, "vlanGateway", in->vlanGateway);
-    });
-}
+MW_SETTABLE_PAGE(network_vlan, [](auto &a, auto &r) {
+    a("vlanEnable", r.vlanEnable);
+    a("vlanId", r.vlanId);
+    a("vlanIp", r.vlanIp);
+    a("vlanNetmask", r.vlanNetmask);
+    a("vlanGateway", r.vlanGateway);
+})
 
-int32_t get_network_pppoe_json(const network_pppoe_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "pppoeEnable", in->pppoeEnable);
-        add(root, "pppoeUsername", in->pppoeUsername);
-        add(root, "pppoeIp", in->pppoeIp);
-        add(root, "pppoeReload", in->pppoeReload);
-    });
-}
+MW_SETTABLE_PAGE(network_pppoe, [](auto &a, auto &r) {
+    a("pppoeEnable", r.pppoeEnable);
+    a("pppoeUsername", r.pppoeUsername);
+    a("pppoeIp", r.pppoeIp);
+    a("pppoeReload", r.pppoeReload);
+})
 
-int32_t get_network_ddns_json(const network_ddns_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enable", in->enable);
-        add(root, "hostName", in->hostName);
-        add(root, "userName", in->userName);
-        add(root, "provider", in->provider);
-        add(root, "hash", in->hash);
-        add(root, "url", in->url);
-        add(root, "httpPort", in->httpPort); // the three ports are unsigned words
-        add(root, "rtspPort", in->rtspPort);
-        add(root, "playbackPort", in->playbackPort);
-        add(root, "hostIp", in->hostIp);
-        add(root, "status", in->status);
-        add(root, "oemzkDisplay", in->oemzkDisplay);
-        add(root, "oemIndex", in->oemIndex);
-    });
-}
+MW_SETTABLE_PAGE(network_ddns, [](auto &a, auto &r) {
+    a("enable", r.enable);
+    a("hostName", r.hostName);
+    a("userName", r.userName);
+    a("provider", r.provider);
+    a("hash", r.hash);
+    a("url", r.url);
+    a("httpPort", r.httpPort); // the three ports are unsigned words
+    a("rtspPort", r.rtspPort);
+    a("playbackPort", r.playbackPort);
+    a("hostIp", r.hostIp);
+    a("status", r.status);
+    a("oemzkDisplay", r.oemzkDisplay);
+    a("oemIndex", r.oemIndex);
+})
 
-int32_t get_network_rtsp_json(const network_rtsp_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "multicastGroupAddress", in->multicastGroupAddress);
-        for (int32_t i = 0; i <= 3; ++i)
-            add(root, mw::Key<30>("multicastPort_%d", i), in->multicastPort[i]);
-        add(root, "rtspPort", in->rtspPort);
-        add(root, "rtspPlaybackPort", in->rtspPlaybackPort);
-        add(root, "qosDscp", in->qosDscp);
-        add(root, "rtpPacketSize", in->rtpPacketSize);
-    });
-}
+MW_SETTABLE_PAGE(network_rtsp, [](auto &a, auto &r) {
+    a("multicastGroupAddress", r.multicastGroupAddress);
+    for (int32_t i = 0; i <= 3; ++i)
+        a(mw::Key<30>("multicastPort_%d", i), r.multicastPort[i]);
+    a("rtspPort", r.rtspPort);
+    a("rtspPlaybackPort", r.rtspPlaybackPort);
+    a("qosDscp", r.qosDscp);
+    a("rtpPacketSize", r.rtpPacketSize);
+})
 
-int32_t get_network_snmp_json(const network_snmp_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enableV1", in->enableV1);
-        add(root, "enableV2", in->enableV2);
-        add(root, "wrCommunity", in->wrCommunity);
-        add(root, "rdCommunity", in->rdCommunity);
-        add(root, "enableV3", in->enableV3); // after the communities, though stored before them
-        add(root, "rdSecurityName", in->rdSecurityName);
-        add(root, "rdSecurityLevel", in->rdSecurityLevel);
-        add(root, "rdAuthenticationAlgorithm", in->rdAuthenticationAlgorithm);
-        add(root, "rdAuthenticationPassword", in->rdAuthenticationPassword);
-        add(root, "rdPrivateKeyAlgorithm", in->rdPrivateKeyAlgorithm);
-        add(root, "rdPrivatePassword", in->rdPrivatePassword);
-        add(root, "wrSecurityName", in->wrSecurityName);
-        add(root, "wrSecurityLevel", in->wrSecurityLevel);
-        add(root, "wrAuthenticationAlgorithm", in->wrAuthenticationAlgorithm);
-        add(root, "wrAuthenticationPassword", in->wrAuthenticationPassword);
-        add(root, "wrPrivateKeyAlgorithm", in->wrPrivateKeyAlgorithm);
-        add(root, "wrPrivatePassword", in->wrPrivatePassword);
-        add(root, "snmpPort", in->snmpPort);
-    });
-}
+MW_SETTABLE_PAGE(network_snmp, [](auto &a, auto &r) {
+    a("enableV1", r.enableV1);
+    a("enableV2", r.enableV2);
+    a("wrCommunity", r.wrCommunity);
+    a("rdCommunity", r.rdCommunity);
+    a("enableV3", r.enableV3); // after the communities, though stored before them
+    a("rdSecurityName", r.rdSecurityName);
+    a("rdSecurityLevel", r.rdSecurityLevel);
+    a("rdAuthenticationAlgorithm", r.rdAuthenticationAlgorithm);
+    a("rdAuthenticationPassword", r.rdAuthenticationPassword);
+    a("rdPrivateKeyAlgorithm", r.rdPrivateKeyAlgorithm);
+    a("rdPrivatePassword", r.rdPrivatePassword);
+    a("wrSecurityName", r.wrSecurityName);
+    a("wrSecurityLevel", r.wrSecurityLevel);
+    a("wrAuthenticationAlgorithm", r.wrAuthenticationAlgorithm);
+    a("wrAuthenticationPassword", r.wrAuthenticationPassword);
+    a("wrPrivateKeyAlgorithm", r.wrPrivateKeyAlgorithm);
+    a("wrPrivatePassword", r.wrPrivatePassword);
+    a("snmpPort", r.snmpPort);
+})
 
-int32_t get_network_8021x_json(const network_8021x_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enable", in->enable);
-        mw::add_string(root, "protocol", "EAP-MD5"); // the only method the supplicant speaks
-        // The stored byte counts versions from 0; the page shows them from 1.
-        add(root, "eapolver", static_cast<int32_t>(in->eapolver) + 1);
-        add(root, "username", in->username);
-    });
-}
+MW_SETTABLE_PAGE(network_8021x, [](auto &a, auto &r) {
+    a("enable", r.enable);
+    a.derived_text("protocol", "EAP-MD5"); // the only method the supplicant speaks
+    // The stored byte counts versions from 0; the page shows them from 1.
+    a.derived("eapolver", static_cast<int32_t>(r.eapolver) + 1);
+    a("username", r.username);
+})
 
-int32_t get_network_bonjour_json(const network_bonjour_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enable", in->enable);
-        add(root, "name", in->name);
-    });
-}
+MW_SETTABLE_PAGE(network_bonjour, [](auto &a, auto &r) {
+    a("enable", r.enable);
+    a("name", r.name);
+})
 
 /* ---- platform, push, online users, mail and SIP ---- */
 
-int32_t get_network_platform_json(const network_platform_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enable", in->enable);
-        add(root, "localPort", in->localPort);
-        add(root, "serverId", in->serverId);
-        add(root, "serverRegion", in->serverRegion);
-        add(root, "serverAddress", in->serverAddress);
-        add(root, "serverPort", in->serverPort);
-        add(root, "deviceId", in->deviceId);
-        add(root, "password", in->password);
-        add(root, "validity", in->validity);
-        add(root, "heartBeatPeriod", in->heartBeatPeriod);
-        add(root, "videoStream", in->videoStream);
-        add(root, "registerInterval", in->registerInterval);
-        add(root, "maxTimeout", in->maxTimeout);
-        add(root, "alarmInput", in->alarmInput);
-        add(root, "videoChannel", in->videoChannel);
-        add(root, "audioOutput", in->audioOutput);
-    });
-}
+MW_SETTABLE_PAGE(network_platform, [](auto &a, auto &r) {
+    a("enable", r.enable);
+    a("localPort", r.localPort);
+    a("serverId", r.serverId);
+    a("serverRegion", r.serverRegion);
+    a("serverAddress", r.serverAddress);
+    a("serverPort", r.serverPort);
+    a("deviceId", r.deviceId);
+    a("password", r.password);
+    a("validity", r.validity);
+    a("heartBeatPeriod", r.heartBeatPeriod);
+    a("videoStream", r.videoStream);
+    a("registerInterval", r.registerInterval);
+    a("maxTimeout", r.maxTimeout);
+    a("alarmInput", r.alarmInput);
+    a("videoChannel", r.videoChannel);
+    a("audioOutput", r.audioOutput);
+})
 
-int32_t get_network_more_json(const network_more_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "onvifEnable", in->onvifEnable);
-        add(root, "pushEnable", in->pushEnable);
-        add(root, "pushType", in->pushType);
-        cJSON *push = mw::object(root, "newModulePush");
+MW_SETTABLE_PAGE(network_more, [](auto &a, auto &r) {
+    a("onvifEnable", r.onvifEnable);
+    a("pushEnable", r.pushEnable);
+    a("pushType", r.pushType);
+    a.object("newModulePush", [&](auto &push) {
         // One module today; raise the bound with the record's array when the
         // platform names more. The platform owns the key texts.
         for (int32_t m = 0; m <= 0; ++m)
-            add(push, get_new_module_push_name(m), in->modulePush[m].push);
+            push(mw::Name::copied(get_new_module_push_name(m)), r.modulePush[m].push);
     });
-}
+})
 
-int32_t get_network_rtmp_json(const network_rtmp_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enable", in->enable);
-        add(root, "streamType", in->streamType);
-        add(root, "server", in->server);
-    });
-}
+MW_SETTABLE_PAGE(network_rtmp, [](auto &a, auto &r) {
+    a("enable", r.enable);
+    a("streamType", r.streamType);
+    a("server", r.server);
+})
 
-int32_t get_network_anr_info_json(const network_anr_info_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "anrMac", in->anrMac);
-        add(root, "anrIp", in->anrIp);
-        add(root, "anrStatus", in->anrStatus);
-    });
-}
+MW_READ_ONLY_PAGE(network_anr_info, [](auto &a, auto &r) {
+    a("anrMac", r.anrMac);
+    a("anrIp", r.anrIp);
+    a("anrStatus", r.anrStatus);
+})
 
-int32_t get_network_online_users_json(const network_online_users_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        cJSON *list = mw::array(root, "onlineUserList");
+MW_READ_ONLY_PAGE(network_online_users, [](auto &a, auto &r) {
+    a.list("onlineUserList", nullptr, [&](auto &l) {
         // The list stops at the 30 slots whatever the count says.
-        for (int32_t i = 0; i < in->onlineUserCount && i < 30; ++i) {
-            cJSON *user = mw::append_object(list);
-            add(user, "onlineUserName", in->onlineUserName[i]);
-            add(user, "onlineUserLevel", in->onlineUserLevel[i]);
-            add(user, "onlineUserIp", in->onlineUserIp[i]);
-            add(user, "onlineUserTime", in->onlineUserTime[i]);
+        for (int32_t i = 0; i < r.onlineUserCount && i < 30; ++i) {
+            l.item([&](auto &user) {
+                user("onlineUserName", r.onlineUserName[i]);
+                user("onlineUserLevel", r.onlineUserLevel[i]);
+                user("onlineUserIp", r.onlineUserIp[i]);
+                user("onlineUserTime", r.onlineUserTime[i]);
+            });
         }
     });
-}
+})
 
-int32_t get_network_smtp_boot_notify_json(const network_smtp_boot_notify_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "bootNotifyEnable", in->bootNotifyEnable);
-        add(root, "serverAddress", in->serverAddress);
-        add(root, "serverPort", in->serverPort);
-        add(root, "serverUserName", in->serverUserName);
-        // The SSL mode is kept as two bits: 0 none, 1 and 2 the two secure modes.
-        add(root, "serverSsl", 2 * static_cast<int32_t>(in->serverSslHigh) + static_cast<int32_t>(in->serverSslLow));
-        add(root, "serverFromAddress", in->serverFromAddress);
-        add(root, "serverToAddress", in->serverToAddress);
-        add(root, "emailTarcertAddress", in->emailTarcertAddress);
-    });
-}
+MW_SETTABLE_PAGE(network_smtp_boot_notify, [](auto &a, auto &r) {
+    a("bootNotifyEnable", r.bootNotifyEnable);
+    a("serverAddress", r.serverAddress);
+    a("serverPort", r.serverPort);
+    a("serverUserName", r.serverUserName);
+    // The SSL mode is kept as two bits: 0 none, 1 and 2 the two secure modes.
+    a.derived("serverSsl", 2 * static_cast<int32_t>(r.serverSslHigh) + static_cast<int32_t>(r.serverSslLow));
+    a("serverFromAddress", r.serverFromAddress);
+    a("serverToAddress", r.serverToAddress);
+    a("emailTarcertAddress", r.emailTarcertAddress);
+})
 
-int32_t get_network_sip_settings_json(const network_sip_settings_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        const sip_settings *sip = in->settings;
-        add(root, "enable", sip->enable);
-        add(root, "registerMode", sip->registerMode);
-        add(root, "userId", sip->userId);
-        add(root, "userName", sip->userName);
-        add(root, "password", sip->password);
-        add(root, "serverAddress", sip->serverAddress);
-        add(root, "serverPort", sip->serverPort);
-        add(root, "connectionProtocol", sip->connectionProtocol);
-        add(root, "videoStream", sip->videoStream);
-        add(root, "maxDuration", sip->maxDuration);
-        add(root, "sipAudioEnable", sip->sipAudioEnable);
-        add(root, "sipStatus", in->sipStatus);
-    });
-}
+MW_SETTABLE_PAGE(network_sip_settings, [](auto &a, auto &r) {
+    // The account settings are shared with the SIP service and read through
+    // a const pointer: the page shows them and a request may only repeat them.
+    const sip_settings *sip = r.settings;
+    a.derived("enable", sip->enable);
+    a.derived("registerMode", sip->registerMode);
+    a.derived("userId", sip->userId);
+    a.derived("userName", sip->userName);
+    a.derived("password", sip->password);
+    a.derived("serverAddress", sip->serverAddress);
+    a.derived("serverPort", sip->serverPort);
+    a.derived("connectionProtocol", sip->connectionProtocol);
+    a.derived("videoStream", sip->videoStream);
+    a.derived("maxDuration", sip->maxDuration);
+    a.derived("sipAudioEnable", sip->sipAudioEnable);
+    a("sipStatus", r.sipStatus);
+})
 
-int32_t get_network_sip_alarm_phone_list_json(const network_sip_alarm_phone_list_record *in, char *dst,
-                                              int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        cJSON *list = mw::array(root, "sipAlarmPhoneList");
+MW_SETTABLE_PAGE(network_sip_alarm_phone_list, [](auto &a, auto &r) {
+    a.list("sipAlarmPhoneList", "phoneIndex", [&](auto &l) {
         // The phones are kept packed from slot 0: the first empty number ends
         // the list, whatever the later slots hold.
-        for (int32_t i = 0; i <= 4 && in->phones[i].phoneNumber[0] != '\0'; ++i) {
-            const sip_alarm_phone_entry &phone = in->phones[i];
-            cJSON *item = mw::append_object(list);
-            add(item, "phoneIndex", i);
-            add(item, "phoneType", phone.phoneType);
-            add(item, "phoneNumber", phone.phoneNumber);
-            add(item, "phoneName", phone.phoneName);
-            // Start and end of the daily window as HHMMHHMM; a value above 99
-            // widens its field rather than being cut.
-            mw::add_string(item, "phoneDuration",
-                           mw::Text<32>("%02d%02d%02d%02d", phone.durationStartHour, phone.durationStartMinute,
-                                       phone.durationEndHour, phone.durationEndMinute));
-            add(item, "phonePort", phone.phonePort);
+        for (int32_t i = 0; i <= 4 && r.phones[i].phoneNumber[0] != '\0'; ++i) {
+            auto &phone = r.phones[i];
+            l.item(i, [&](auto &item) {
+                item("phoneType", phone.phoneType);
+                item("phoneNumber", phone.phoneNumber);
+                item("phoneName", phone.phoneName);
+                // Start and end of the daily window as HHMMHHMM; a value
+                // above 99 widens its field rather than being cut.
+                item.derived("phoneDuration",
+                             mw::Text<32>("%02d%02d%02d%02d", phone.durationStartHour, phone.durationStartMinute,
+                                          phone.durationEndHour, phone.durationEndMinute));
+                item("phonePort", phone.phonePort);
+            });
         }
     });
-}
+})
 
-int32_t get_network_sip_white_list_json(const network_sip_white_list_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enable", in->enable);
-        cJSON *list = mw::array(root, "sipWhiteList");
+MW_SETTABLE_PAGE(network_sip_white_list, [](auto &a, auto &r) {
+    a("enable", r.enable);
+    a.list("sipWhiteList", "phoneIndex", [&](auto &l) {
         // Unused slots are left out but the others keep their slot numbers.
         for (int32_t i = 0; i <= 4; ++i) {
-            if (in->phoneNumber[i][0] == '\0')
+            if (r.phoneNumber[i][0] == '\0')
                 continue;
-            cJSON *item = mw::append_object(list);
-            add(item, "phoneIndex", i);
-            add(item, "phoneType", in->phoneType[i]);
-            add(item, "phoneNumber", in->phoneNumber[i]);
+            l.item(i, [&](auto &item) {
+                item("phoneType", r.phoneType[i]);
+                item("phoneNumber", r.phoneNumber[i]);
+            });
         }
     });
-}
+})
 
 /* ---- stream addresses, VPN and cellular ---- */
 
-int32_t get_network_stream_url_json(const network_stream_url_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add_stream_urls(root, "rtspStreamUrl", in->rtspStreamUrl);
-        add_stream_urls(root, "httpStreamUrl", in->httpStreamUrl);
-    });
-}
+MW_READ_ONLY_PAGE(network_stream_url, [](auto &a, auto &r) {
+    stream_urls(a, "rtspStreamUrl", r.rtspStreamUrl);
+    stream_urls(a, "httpStreamUrl", r.httpStreamUrl);
+})
 
-int32_t get_network_vpn_json(const network_vpn_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "server", in->server);
-        add(root, "port", in->port);
-        add(root, "authCode", in->authCode);
-        add(root, "deviceName", in->deviceName);
-        add(root, "mode", in->mode); // after the texts, though stored first
-        add(root, "connected", in->connected);
-        add(root, "localIp", in->localIp);
-        add(root, "remoteIp", in->remoteIp);
-        add(root, "duration", in->duration);
-        add(root, "errorCode", in->errorCode);
-    });
-}
+MW_SETTABLE_PAGE(network_vpn, [](auto &a, auto &r) {
+    a("server", r.server);
+    a("port", r.port);
+    a("authCode", r.authCode);
+    a("deviceName", r.deviceName);
+    a("mode", r.mode); // after the texts, though stored first
+    a("connected", r.connected);
+    a("localIp", r.localIp);
+    a("remoteIp", r.remoteIp);
+    a("duration", r.duration);
+    a("errorCode", r.errorCode);
+})
 
-int32_t get_network_cellular_info_json(const network_cellular_info_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enable", in->enable);
-        add(root, "apn", in->apn);
-        add(root, "userName", in->userName);
-        add(root, "password", in->password);
-        add(root, "pinCode", in->pinCode);
-        add(root, "accessNumber", in->accessNumber);
-        add(root, "authenticationType", in->authenticationType);
-        add(root, "networkType", in->networkType);
-        add(root, "redialInterval", in->redialInterval);
-        add(root, "billDay", in->billDay);
-        add(root, "pingDetection", in->pingDetection); // beside its address, though stored second
-        add(root, "pingAddr", in->pingAddr);
-        add(root, "mtu", in->mtu);
-        add(root, "isp", in->isp);
-        add(root, "simStatus", in->simStatus);
-        add(root, "signal", in->signal);
-        add(root, "connect", in->connect);
-        add(root, "imei", in->imei);
-        add(root, "imsi", in->imsi);
-        add(root, "iccid", in->iccid);
-        add(root, "ipaddr", in->ipaddr);
-        add(root, "subNetmask", in->subNetmask);
-        add(root, "gateway", in->gateway);
-        add(root, "dns", in->dns);
-        add(root, "dataUsage", in->dataUsage);
-    });
-}
+MW_READ_ONLY_PAGE(network_cellular_info, [](auto &a, auto &r) {
+    a("enable", r.enable);
+    a("apn", r.apn);
+    a("userName", r.userName);
+    a("password", r.password);
+    a("pinCode", r.pinCode);
+    a("accessNumber", r.accessNumber);
+    a("authenticationType", r.authenticationType);
+    a("networkType", r.networkType);
+    a("redialInterval", r.redialInterval);
+    a("billDay", r.billDay);
+    a("pingDetection", r.pingDetection); // beside its address, though stored second
+    a("pingAddr", r.pingAddr);
+    a("mtu", r.mtu);
+    a("isp", r.isp);
+    a("simStatus", r.simStatus);
+    a("signal", r.signal);
+    a("connect", r.connect);
+    a("imei", r.imei);
+    a("imsi", r.imsi);
+    a("iccid", r.iccid);
+    a("ipaddr", r.ipaddr);
+    a("subNetmask", r.subNetmask);
+    a("gateway", r.gateway);
+    a("dns", r.dns);
+    a("dataUsage", r.dataUsage);
+})

@@ -178,190 +178,187 @@ system_support_info_record sample_support_info()
     return r;
 }
 
+system_model_record sample_system_model()
+{
+    system_model_record m{};
+    put(m.devicevEnder, "Northfield Vision");
+    put(m.name, "Bullet 4MP LPR");
+    put(m.deviceModel, "IPC-B4240-LPR");
+    return m;
+}
+
+system_date_time_record sample_system_date_time()
+{
+    system_date_time_record t{};
+    t.year = 2026;
+    t.month = 11;
+    t.day = 22;
+    t.hour = 9;
+    t.minute = 41;
+    t.second = 7;
+    put(t.timeZoneTz, "CET-1CEST,M3.5.0,M10.5.0/3");
+    put(t.zoneNameTz, "Europe/Berlin");
+    t.dayLight = 1;
+    t.timeType = 1;
+    put(t.ntpServer, "pool.ntp.org");
+    t.ntpSyncEnable = 1;
+    t.ntpInterval = 60;
+    return t;
+}
+
+system_water_mark_record sample_system_water_mark()
+{
+    system_water_mark_record w{};
+    w.waterMarkEnable = 1;
+    put(w.waterMarkString, "Northfield car park - gate north");
+    return w;
+}
+
+system_notify_record sample_system_notify()
+{
+    system_notify_record t{};
+    put(t.keep, "Keep alive");
+    put(t.md, "Motion detected");
+    put(t.recording, "Recording started");
+    put(t.input, "Alarm input 1 triggered");
+    put(t.output, "Barrier relay closed");
+    return t;
+}
+
+system_auto_export_record sample_system_auto_export()
+{
+    system_auto_export_record e{};
+    e.autoExportEnable = 1;
+    e.autoExportMethod = 1;
+    e.autoExportWeekday = 1;
+    put(e.autoExportTime, "02:00:00");
+    e.autoExportRange = 7;
+    return e;
+}
+
+system_authority_record sample_system_authority()
+{
+    system_authority_record a{};
+    a.userLevel = 1;
+    a.privilege = 63;
+    put(a.userId, "operator");
+    return a;
+}
+
+system_remote_logs_record sample_system_remote_logs()
+{
+    system_remote_logs_record l{};
+    l.remoteLogsEnable = 1;
+    l.remoteLogsPort = 514;
+    put(l.remoteLogsIpAddress, "192.168.1.20");
+    return l;
+}
+
+system_upgrade_info_record sample_system_upgrade_info()
+{
+    system_upgrade_info_record u{};
+    put(u.upgradeInfo, "V5.2.16 is available: improves night-time plate reading and fixes RTSP "
+                       "reconnection after a network loss.");
+    return u;
+}
+
+system_online_heart_record sample_system_online_heart()
+{
+    system_online_heart_record h{};
+    put(h.softversion, "V5.2.14 build 240611");
+    return h;
+}
+
+system_sqa_info_record sample_system_sqa_info()
+{
+    system_sqa_info_record q{};
+    q.sqaEnable = 1;
+    const char *questions[3] = {"Name of your first school?", "City where you were born?",
+                                "Model of your first car?"};
+    for (int i = 0; i < 3; ++i) {
+        q.questions[i].sqaType = static_cast<uint8_t>(i + 1);
+        put(q.questions[i].sqaQuestion, questions[i]);
+        put(q.questions[i].sqaAnswer, "(stored answer)");
+    }
+    return q;
+}
+
+system_access_list_record sample_system_access_list()
+{
+    system_access_list_record a{};
+    a.maxConcurrent = 10;
+    a.filterEnable = 1;
+    a.filterType = 0;
+    const char *addresses[3] = {"192.168.1.10", "192.168.1.0/24", "10.20.0.5"};
+    const int slots[3] = {0, 1, 4};
+    for (int i = 0; i < 3; ++i) {
+        a.slotNumbers[slots[i]] = slots[i];
+        a.accessType[slots[i]] = i == 1 ? 1 : 0;
+        put(a.accessAddress[slots[i]], addresses[i]);
+    }
+    return a;
+}
+
+system_user_anonymous_record sample_system_user_anonymous()
+{
+    return system_user_anonymous_record{0};
+}
+
+system_auto_reboot_record sample_system_auto_reboot()
+{
+    return system_auto_reboot_record{1, 2, 3, 30, 0};
+}
+
+system_ssh_record sample_system_ssh()
+{
+    return system_ssh_record{0, 22};
+}
+
+system_aes_key_record sample_aes_key()
+{
+    system_aes_key_record k{};
+    put(k.key, "9f86d081884c7d659a2feaa0c55ad015a3bf4f1b2b0b822cd15d6c15b0f00a08");
+    put(k.keyId, "carpark-2026-11");
+    return k;
+}
+
 const CatalogEntry entries[] = {
-    {"get_system_information_json", "device identity, network state and supported features",
-     [](char *dst, int32_t n) {
-         static const system_information_record r = sample_information();
-         return get_system_information_json(&r, dst, n);
-     }},
-    {"get_system_model_json", "vendor, product name and model",
-     [](char *dst, int32_t n) {
-         static const system_model_record r = [] {
-             system_model_record m{};
-             put(m.devicevEnder, "Northfield Vision");
-             put(m.name, "Bullet 4MP LPR");
-             put(m.deviceModel, "IPC-B4240-LPR");
-             return m;
-         }();
-         return get_system_model_json(&r, dst, n);
-     }},
-    {"get_system_upgrade_info_json", "notice of a newer firmware",
-     [](char *dst, int32_t n) {
-         static const system_upgrade_info_record r = [] {
-             system_upgrade_info_record u{};
-             put(u.upgradeInfo, "V5.2.16 is available: improves night-time plate reading and fixes RTSP "
-                                "reconnection after a network loss.");
-             return u;
-         }();
-         return get_system_upgrade_info_json(&r, dst, n);
-     }},
-    {"get_system_online_heart_json", "heartbeat answer with the running software version",
-     [](char *dst, int32_t n) {
-         static const system_online_heart_record r = [] {
-             system_online_heart_record h{};
-             put(h.softversion, "V5.2.14 build 240611");
-             return h;
-         }();
-         return get_system_online_heart_json(&r, dst, n);
-     }},
-    {"get_system_date_time_json", "date, time zone and NTP",
-     [](char *dst, int32_t n) {
-         static const system_date_time_record r = [] {
-             system_date_time_record t{};
-             t.year = 2026;
-             t.month = 11;
-             t.day = 22;
-             t.hour = 9;
-             t.minute = 41;
-             t.second = 7;
-             put(t.timeZoneTz, "CET-1CEST,M3.5.0,M10.5.0/3");
-             put(t.zoneNameTz, "Europe/Berlin");
-             t.dayLight = 1;
-             t.timeType = 1;
-             put(t.ntpServer, "pool.ntp.org");
-             t.ntpSyncEnable = 1;
-             t.ntpInterval = 60;
-             return t;
-         }();
-         return get_system_date_time_json(&r, dst, n);
-     }},
-    {"get_system_user_anonymous_json", "whether visitors may watch without an account",
-     [](char *dst, int32_t n) {
-         static const system_user_anonymous_record r{0};
-         return get_system_user_anonymous_json(&r, dst, n);
-     }},
-    {"get_system_user_json", "the accounts with their levels and module permissions",
-     [](char *dst, int32_t n) {
-         static const system_user_record r = sample_users();
-         return get_system_user_json(&r, dst, n);
-     }},
-    {"get_system_auto_reboot_json", "the weekly automatic reboot",
-     [](char *dst, int32_t n) {
-         static const system_auto_reboot_record r{1, 2, 3, 30, 0};
-         return get_system_auto_reboot_json(&r, dst, n);
-     }},
-    {"get_system_aes_key_json", "the stream-encryption key",
-     [](char *dst, int32_t n) {
-         static const system_aes_key_record r = [] {
-             system_aes_key_record k{};
-             put(k.key, "9f86d081884c7d659a2feaa0c55ad015a3bf4f1b2b0b822cd15d6c15b0f00a08");
-             put(k.keyId, "carpark-2026-11");
-             return k;
-         }();
-         return get_system_aes_key_json(&r, dst, n);
-     }},
-    {"get_system_sqa_info_json", "the administrator's security questions",
-     [](char *dst, int32_t n) {
-         static const system_sqa_info_record r = [] {
-             system_sqa_info_record q{};
-             q.sqaEnable = 1;
-             const char *questions[3] = {"Name of your first school?", "City where you were born?",
-                                         "Model of your first car?"};
-             for (int i = 0; i < 3; ++i) {
-                 q.questions[i].sqaType = static_cast<uint8_t>(i + 1);
-                 put(q.questions[i].sqaQuestion, questions[i]);
-                 put(q.questions[i].sqaAnswer, "(stored answer)");
-             }
-             return q;
-         }();
-         return get_system_sqa_info_json(&r, dst, n);
-     }},
-    {"get_system_water_mark_json", "the video watermark",
-     [](char *dst, int32_t n) {
-         static const system_water_mark_record r = [] {
-             system_water_mark_record w{};
-             w.waterMarkEnable = 1;
-             put(w.waterMarkString, "Northfield car park - gate north");
-             return w;
-         }();
-         return get_system_water_mark_json(&r, dst, n);
-     }},
-    {"get_system_access_list_json", "the IP access list",
-     [](char *dst, int32_t n) {
-         static const system_access_list_record r = [] {
-             system_access_list_record a{};
-             a.maxConcurrent = 10;
-             a.filterEnable = 1;
-             a.filterType = 0;
-             const char *addresses[3] = {"192.168.1.10", "192.168.1.0/24", "10.20.0.5"};
-             const int slots[3] = {0, 1, 4};
-             for (int i = 0; i < 3; ++i) {
-                 a.slotNumbers[slots[i]] = slots[i];
-                 a.accessType[slots[i]] = i == 1 ? 1 : 0;
-                 put(a.accessAddress[slots[i]], addresses[i]);
-             }
-             return a;
-         }();
-         return get_system_access_list_json(&r, dst, n);
-     }},
-    {"get_system_ssh_json", "SSH service",
-     [](char *dst, int32_t n) {
-         static const system_ssh_record r{0, 22};
-         return get_system_ssh_json(&r, dst, n);
-     }},
-    {"get_system_notify_json", "the notification texts",
-     [](char *dst, int32_t n) {
-         static const system_notify_record r = [] {
-             system_notify_record t{};
-             put(t.keep, "Keep alive");
-             put(t.md, "Motion detected");
-             put(t.recording, "Recording started");
-             put(t.input, "Alarm input 1 triggered");
-             put(t.output, "Barrier relay closed");
-             return t;
-         }();
-         return get_system_notify_json(&r, dst, n);
-     }},
-    {"get_system_auto_export_json", "automatic export of recordings",
-     [](char *dst, int32_t n) {
-         static const system_auto_export_record r = [] {
-             system_auto_export_record e{};
-             e.autoExportEnable = 1;
-             e.autoExportMethod = 1;
-             e.autoExportWeekday = 1;
-             put(e.autoExportTime, "02:00:00");
-             e.autoExportRange = 7;
-             return e;
-         }();
-         return get_system_auto_export_json(&r, dst, n);
-     }},
-    {"get_system_authority_json", "the logged-in user's authority",
-     [](char *dst, int32_t n) {
-         static const system_authority_record r = [] {
-             system_authority_record a{};
-             a.userLevel = 1;
-             a.privilege = 63;
-             put(a.userId, "operator");
-             return a;
-         }();
-         return get_system_authority_json(&r, dst, n);
-     }},
-    {"get_system_remote_logs_json", "sending the log to a remote server",
-     [](char *dst, int32_t n) {
-         static const system_remote_logs_record r = [] {
-             system_remote_logs_record l{};
-             l.remoteLogsEnable = 1;
-             l.remoteLogsPort = 514;
-             put(l.remoteLogsIpAddress, "192.168.1.20");
-             return l;
-         }();
-         return get_system_remote_logs_json(&r, dst, n);
-     }},
-    {"get_system_support_info_json", "optional pages, ports and the firmware upgrade notice",
-     [](char *dst, int32_t n) {
-         static const system_support_info_record r = sample_support_info();
-         return get_system_support_info_json(&r, dst, n);
-     }},
+    MW_READ_ONLY_ENTRY(system_information, "device identity, network state and supported features", "device information",
+                       (kept<system_information_record, sample_information>)),
+    MW_READ_ONLY_ENTRY(system_model, "vendor, product name and model", "the unit's model",
+                       (kept<system_model_record, sample_system_model>)),
+    MW_READ_ONLY_ENTRY(system_upgrade_info, "notice of a newer firmware", "notice from the update service",
+                       (kept<system_upgrade_info_record, sample_system_upgrade_info>)),
+    MW_READ_ONLY_ENTRY(system_online_heart, "heartbeat answer with the running software version", "live heartbeat",
+                       (kept<system_online_heart_record, sample_system_online_heart>)),
+    MW_SETTABLE_ENTRY(system_date_time, "date, time zone and NTP",
+                      (kept<system_date_time_record, sample_system_date_time>)),
+    MW_SETTABLE_ENTRY(system_user_anonymous, "whether visitors may watch without an account",
+                      (kept<system_user_anonymous_record, sample_system_user_anonymous>)),
+    MW_SETTABLE_ENTRY(system_user, "the accounts with their levels and module permissions",
+                      (kept<system_user_record, sample_users>)),
+    MW_SETTABLE_ENTRY(system_auto_reboot, "the weekly automatic reboot",
+                      (kept<system_auto_reboot_record, sample_system_auto_reboot>)),
+    MW_READ_ONLY_ENTRY(system_aes_key, "the stream-encryption key", "the camera's own key",
+                       (kept<system_aes_key_record, sample_aes_key>)),
+    MW_SETTABLE_ENTRY(system_sqa_info, "the administrator's security questions",
+                      (kept<system_sqa_info_record, sample_system_sqa_info>)),
+    MW_SETTABLE_ENTRY(system_water_mark, "the video watermark",
+                      (kept<system_water_mark_record, sample_system_water_mark>)),
+    MW_SETTABLE_ENTRY(system_access_list, "the IP access list",
+                      (kept<system_access_list_record, sample_system_access_list>)),
+    MW_SETTABLE_ENTRY(system_ssh, "SSH service",
+                      (kept<system_ssh_record, sample_system_ssh>)),
+    MW_SETTABLE_ENTRY(system_notify, "the notification texts",
+                      (kept<system_notify_record, sample_system_notify>)),
+    MW_SETTABLE_ENTRY(system_auto_export, "automatic export of recordings",
+                      (kept<system_auto_export_record, sample_system_auto_export>)),
+    MW_SETTABLE_ENTRY(system_authority, "the logged-in user's authority",
+                      (kept<system_authority_record, sample_system_authority>)),
+    MW_SETTABLE_ENTRY(system_remote_logs, "sending the log to a remote server",
+                      (kept<system_remote_logs_record, sample_system_remote_logs>)),
+    MW_READ_ONLY_ENTRY(system_support_info, "optional pages, ports and the firmware upgrade notice", "support report",
+                       (kept<system_support_info_record, sample_support_info>)),
 };
 
 } // namespace

@@ -139,11 +139,15 @@ typedef struct system_online_heart_record {
 /* 96 members in a fixed order; "isFaceCustomizeModeExists" is always 0. */
 MW_API int32_t get_system_information_json(const system_information_record *in, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_system_information_json(const system_information_record *in, char *dst, int32_t dstSize);
 MW_API int32_t get_system_model_json(const system_model_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_system_model_json(const system_model_record *in, char *dst, int32_t dstSize);
 MW_API int32_t get_system_upgrade_info_json(const system_upgrade_info_record *in, char *dst,
                                             int32_t dstSize);
+MW_API int32_t schema_system_upgrade_info_json(const system_upgrade_info_record *in, char *dst, int32_t dstSize);
 MW_API int32_t get_system_online_heart_json(const system_online_heart_record *in, char *dst,
                                             int32_t dstSize);
+MW_API int32_t schema_system_online_heart_json(const system_online_heart_record *in, char *dst, int32_t dstSize);
 
 /* ===== end system: device information ===== */
 
@@ -290,45 +294,82 @@ typedef struct system_remote_logs_record {
 
 /* Thirteen members in record order. */
 MW_API int32_t get_system_date_time_json(const system_date_time_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_system_date_time_json(const system_date_time_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_date_time_json(system_date_time_record *record, const char *body, int32_t bodySize, char *dst,
+                                         int32_t dstSize);
 /* "miscAnonymous". */
 MW_API int32_t get_system_user_anonymous_json(const system_user_anonymous_record *in, char *dst,
                                               int32_t dstSize);
+MW_API int32_t schema_system_user_anonymous_json(const system_user_anonymous_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_user_anonymous_json(system_user_anonymous_record *record, const char *body, int32_t bodySize,
+                                              char *dst, int32_t dstSize);
 /* "miscAnonymous" and "userList": the used slots in slot order, each with
    "userName", "userLevel", "privilege" and "newModulePermission", whose four
    keys are the platform's module permission texts (modules 0..3). */
 MW_API int32_t get_system_user_json(const system_user_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_system_user_json(const system_user_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_user_json(system_user_record *record, const char *body, int32_t bodySize, char *dst,
+                                    int32_t dstSize);
 /* "rebootEnable", "rebootWeekday", "rebootHour", "rebootMin", "rebootSec". */
 MW_API int32_t get_system_auto_reboot_json(const system_auto_reboot_record *in, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_system_auto_reboot_json(const system_auto_reboot_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_auto_reboot_json(system_auto_reboot_record *record, const char *body, int32_t bodySize,
+                                           char *dst, int32_t dstSize);
 /* "key", "keyId". With an empty key it returns 0 and leaves dst exactly as
    it was: the caller clears dst itself. A NULL dst or a size below 1 is still
    -1. */
 MW_API int32_t get_system_aes_key_json(const system_aes_key_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_system_aes_key_json(const system_aes_key_record *in, char *dst, int32_t dstSize);
 /* "sqaEnable" alone (0) unless sqaEnable is exactly 1; then also, per
    question 0..2, "sqaType_<i>", "sqaQuestion_<i>" and an empty
    "sqaAnswer_<i>". */
 MW_API int32_t get_system_sqa_info_json(const system_sqa_info_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_system_sqa_info_json(const system_sqa_info_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_sqa_info_json(system_sqa_info_record *record, const char *body, int32_t bodySize, char *dst,
+                                        int32_t dstSize);
 /* "waterMarkEnable", "waterMarkString". */
 MW_API int32_t get_system_water_mark_json(const system_water_mark_record *in, char *dst,
                                           int32_t dstSize);
+MW_API int32_t schema_system_water_mark_json(const system_water_mark_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_water_mark_json(system_water_mark_record *record, const char *body, int32_t bodySize,
+                                          char *dst, int32_t dstSize);
 /* "maxConcurrent", "filterEnable", "filterType" and "accessList": the used
    slots, "accessIndex" counting them from 0. */
 MW_API int32_t get_system_access_list_json(const system_access_list_record *in, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_system_access_list_json(const system_access_list_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_access_list_json(system_access_list_record *record, const char *body, int32_t bodySize,
+                                           char *dst, int32_t dstSize);
 /* "sshEnable", "sshPort". */
 MW_API int32_t get_system_ssh_json(const system_ssh_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_system_ssh_json(const system_ssh_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_ssh_json(system_ssh_record *record, const char *body, int32_t bodySize, char *dst,
+                                   int32_t dstSize);
 /* "keep", "md", "recording", "input", "output". */
 MW_API int32_t get_system_notify_json(const system_notify_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_system_notify_json(const system_notify_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_notify_json(system_notify_record *record, const char *body, int32_t bodySize, char *dst,
+                                      int32_t dstSize);
 /* Five members in record order. */
 MW_API int32_t get_system_auto_export_json(const system_auto_export_record *in, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_system_auto_export_json(const system_auto_export_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_auto_export_json(system_auto_export_record *record, const char *body, int32_t bodySize,
+                                           char *dst, int32_t dstSize);
 /* "userLevel", "privilege", "userId". */
 MW_API int32_t get_system_authority_json(const system_authority_record *in, char *dst,
+                                         int32_t dstSize);
+MW_API int32_t schema_system_authority_json(const system_authority_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_authority_json(system_authority_record *record, const char *body, int32_t bodySize, char *dst,
                                          int32_t dstSize);
 /* "remoteLogsEnable", "remoteLogsIpAddress", "remoteLogsPort" (the address
    first). */
 MW_API int32_t get_system_remote_logs_json(const system_remote_logs_record *in, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_system_remote_logs_json(const system_remote_logs_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_system_remote_logs_json(system_remote_logs_record *record, const char *body, int32_t bodySize,
+                                           char *dst, int32_t dstSize);
 
 /* ---- support information ---- */
 
@@ -370,6 +411,7 @@ typedef struct system_support_info_record {
    the "upgradeInfo" object. */
 MW_API int32_t get_system_support_info_json(const system_support_info_record *in, char *dst,
                                             int32_t dstSize);
+MW_API int32_t schema_system_support_info_json(const system_support_info_record *in, char *dst, int32_t dstSize);
 
 /* ===== end system: settings and support information ===== */
 

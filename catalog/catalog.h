@@ -77,6 +77,36 @@ struct RecordPage : ReadOnlyRecordPage<R, Sample, Get, Schema> {
     static constexpr PageOps ops{sizeof(R), Base::initial, Base::render, Base::schema, set};
 };
 
+// The page of a serializer over its record and a second block the firmware
+// keeps apart (a week schedule, a polygon table): the state holds both.
+template <typename R1, const R1 &(*Sample1)(), typename R2, const R2 &(*Sample2)(),
+          int32_t (*Get)(const R1 *, const R2 *, char *, int32_t),
+          int32_t (*Schema)(const R1 *, const R2 *, char *, int32_t),
+          int32_t (*Set)(R1 *, R2 *, const char *, int32_t, char *, int32_t)>
+struct PairPage {
+    struct State {
+        R1 first;
+        R2 second;
+    };
+    static State &of(void *state) { return *static_cast<State *>(state); }
+    static void initial(void *state)
+    {
+        memcpy(&of(state).first, &Sample1(), sizeof(R1));
+        memcpy(&of(state).second, &Sample2(), sizeof(R2));
+    }
+    static int32_t render(void *state, char *dst, int32_t n) { return Get(&of(state).first, &of(state).second, dst, n); }
+    static int32_t schema(void *state, char *dst, int32_t n)
+    {
+        return Schema(&of(state).first, &of(state).second, dst, n);
+    }
+    static int32_t set(void *state, const char *body, int32_t size, char *dst, int32_t n)
+    {
+        return Set(&of(state).first, &of(state).second, body, size, dst, n);
+    }
+    static int32_t sample(char *dst, int32_t n) { return Get(&Sample1(), &Sample2(), dst, n); }
+    static constexpr PageOps ops{sizeof(State), initial, render, schema, set};
+};
+
 // A catalog entry for a page type with `ops` and `sample` (RecordPage, or a
 // page type of a group's own for other argument lists).
 template <typename Page>

@@ -246,81 +246,108 @@ lpr_post_record sample_lpr_post()
     return r;
 }
 
-const CatalogEntry entries[] = {
-    {"ware_get_lpr_parking_detection_json", "licence-plate parking detection: bays, schedule and result posting",
-     [](char *dst, int32_t n) {
-         static const lpr_parking_detection_record r = sample_parking_detection();
-         static const week_schedule_block w = sample_week();
-         return ware_get_lpr_parking_detection_json(&r, &w, dst, n);
-     }},
-    {"ware_get_parking_general_json", "general parking settings and the area list",
-     [](char *dst, int32_t n) {
-         static const parking_general_record r = [] {
-             parking_general_record g{};
-             g.countryRegion = 7;
-             g.nightModeEnable = 1;
-             g.nightModeLevel = 2;
-             g.areaType = 1;
-             return g;
-         }();
-         return ware_get_parking_general_json(&r, "North car park,Level -1,Visitor bays", dst, n);
-     }},
-    {"ware_get_parking_violation_json", "parking-violation detection: regions, permitted vehicles, schedule",
-     [](char *dst, int32_t n) {
-         static const parking_violation_record r = sample_parking_violation();
-         static const week_schedule_block w = sample_week();
-         return ware_get_parking_violation_json(&r, &w, dst, n);
-     }},
-    {"ware_get_auto_export_json", "weekly automatic export of parking results",
-     [](char *dst, int32_t n) {
-         static const auto_export_record r = [] {
-             auto_export_record e{};
-             e.enable = 1;
-             e.method = 1;
-             e.weekday = 1;
-             e.hour = 2;
-             e.min = 30;
-             e.sec = 0;
-             e.timeRange = 7;
-             return e;
-         }();
-         return ware_get_auto_export_json(&r, dst, n);
-     }},
-    {"ware_get_vehicle_count_setting_json", "vehicle counting, its posting targets and schedule",
-     [](char *dst, int32_t n) {
-         static const vehicle_count_setting_record r = sample_vehicle_count();
-         static const week_schedule_block w = sample_week();
-         return ware_get_vehicle_count_setting_json(&r, &w, dst, n);
-     }},
-    {"ware_get_violation_management_json", "traffic violation detection: lines, signals, polygons and speed rules",
-     [](char *dst, int32_t n) {
-         static const violation_management_record r = sample_violation_management();
-         static const violation_polygon_record p = sample_violation_polygons();
-         return ware_get_violation_management_json(&r, &p, dst, n);
-     }},
-    {"ware_get_traffic_light_area_json", "where the traffic lights are in the image",
-     [](char *dst, int32_t n) {
-         static const traffic_light_area_record r = sample_traffic_lights();
-         return ware_get_traffic_light_area_json(&r, dst, n);
-     }},
-    {"ware_get_lpr_post_json", "where licence-plate results are posted and what they carry",
-     [](char *dst, int32_t n) {
-         static const lpr_post_record r = sample_lpr_post();
-         return ware_get_lpr_post_json(&r, dst, n);
-     }},
-    {"ware_get_lpr_post_template_json", "a stored message template for posted plate results",
-     [](char *dst, int32_t n) {
-         static const lpr_post_template_record r = [] {
-             lpr_post_template_record t{};
-             t.mode = 1;
-             t.eventType = 24;
-             put(t.data, "{\"plate\":\"${plate}\",\"time\":\"${time}\",\"lane\":\"${detectionRegion}\","
-                         "\"list\":\"black\",\"device\":\"${deviceName}\"}");
-             return t;
-         }();
-         return ware_get_lpr_post_template_json(&r, dst, n);
-     }},
+parking_general_record sample_parking_general()
+{
+    parking_general_record g{};
+    g.countryRegion = 7;
+    g.nightModeEnable = 1;
+    g.nightModeLevel = 2;
+    g.areaType = 1;
+    return g;
+}
+
+// The general parking page with the area list the web server passes beside
+// the record (a text of the configuration's own).
+struct ParkingGeneralPage {
+    struct State {
+        parking_general_record record;
+        const char *areaList;
+    };
+    static State &of(void *state) { return *static_cast<State *>(state); }
+    static constexpr const char *kAreas = "North car park,Level -1,Visitor bays";
+    static void initial(void *state)
+    {
+        of(state).record = kept<parking_general_record, sample_parking_general>();
+        of(state).areaList = kAreas;
+    }
+    static int32_t render(void *state, char *dst, int32_t n)
+    {
+        return ware_get_parking_general_json(&of(state).record, of(state).areaList, dst, n);
+    }
+    static int32_t schema(void *state, char *dst, int32_t n)
+    {
+        return ware_schema_parking_general_json(&of(state).record, of(state).areaList, dst, n);
+    }
+    static int32_t set(void *state, const char *body, int32_t size, char *dst, int32_t n)
+    {
+        return ware_set_parking_general_json(&of(state).record, of(state).areaList, body, size, dst, n);
+    }
+    static int32_t sample(char *dst, int32_t n)
+    {
+        return ware_get_parking_general_json(&kept<parking_general_record, sample_parking_general>(), kAreas, dst, n);
+    }
+    static constexpr PageOps ops{sizeof(State), initial, render, schema, set};
 };
+
+auto_export_record sample_auto_export()
+{
+    auto_export_record e{};
+    e.enable = 1;
+    e.method = 1;
+    e.weekday = 1;
+    e.hour = 2;
+    e.min = 30;
+    e.sec = 0;
+    e.timeRange = 7;
+    return e;
+}
+
+lpr_post_template_record sample_post_template()
+{
+    lpr_post_template_record t{};
+    t.mode = 1;
+    t.eventType = 24;
+    put(t.data, "{\"plate\":\"${plate}\",\"time\":\"${time}\",\"lane\":\"${detectionRegion}\","
+                "\"list\":\"black\",\"device\":\"${deviceName}\"}");
+    return t;
+}
+
+#define WARE_ENTRY(resource, description, sample)                                                                 \
+    page_entry<RecordPage<resource##_record, sample, ware_get_##resource##_json, ware_schema_##resource##_json,  \
+                          ware_set_##resource##_json>>("ware_get_" #resource "_json", description)
+#define WARE_ENTRY_WITH(resource, Second, description, sample, secondSample)                                      \
+    page_entry<PairPage<resource##_record, sample, Second, secondSample, ware_get_##resource##_json,                \
+                        ware_schema_##resource##_json, ware_set_##resource##_json>>("ware_get_" #resource "_json", \
+                                                                                    description)
+
+const CatalogEntry entries[] = {
+    WARE_ENTRY_WITH(lpr_parking_detection, week_schedule_block,
+                    "licence-plate parking detection: bays, schedule and result posting",
+                    (kept<lpr_parking_detection_record, sample_parking_detection>),
+                    (kept<week_schedule_block, sample_week>)),
+    page_entry<ParkingGeneralPage>("ware_get_parking_general_json", "general parking settings and the area list"),
+    WARE_ENTRY_WITH(parking_violation, week_schedule_block,
+                    "parking-violation detection: regions, permitted vehicles, schedule",
+                    (kept<parking_violation_record, sample_parking_violation>),
+                    (kept<week_schedule_block, sample_week>)),
+    WARE_ENTRY(auto_export, "weekly automatic export of parking results", (kept<auto_export_record, sample_auto_export>)),
+    WARE_ENTRY_WITH(vehicle_count_setting, week_schedule_block, "vehicle counting, its posting targets and schedule",
+                    (kept<vehicle_count_setting_record, sample_vehicle_count>),
+                    (kept<week_schedule_block, sample_week>)),
+    WARE_ENTRY_WITH(violation_management, violation_polygon_record,
+                    "traffic violation detection: lines, signals, polygons and speed rules",
+                    (kept<violation_management_record, sample_violation_management>),
+                    (kept<violation_polygon_record, sample_violation_polygons>)),
+    WARE_ENTRY(traffic_light_area, "where the traffic lights are in the image",
+               (kept<traffic_light_area_record, sample_traffic_lights>)),
+    WARE_ENTRY(lpr_post, "where licence-plate results are posted and what they carry",
+               (kept<lpr_post_record, sample_lpr_post>)),
+    WARE_ENTRY(lpr_post_template, "a stored message template for posted plate results",
+               (kept<lpr_post_template_record, sample_post_template>)),
+};
+
+#undef WARE_ENTRY
+#undef WARE_ENTRY_WITH
 
 } // namespace
 

@@ -94,17 +94,32 @@ typedef struct auto_export_record {
 MW_API int32_t ware_get_lpr_parking_detection_json(const lpr_parking_detection_record *in,
                                                    const week_schedule_block *schedule, char *dst,
                                                    int32_t dstSize);
+MW_API int32_t ware_schema_lpr_parking_detection_json(const lpr_parking_detection_record *in,
+                                                      const week_schedule_block *schedule, char *dst, int32_t dstSize);
+MW_API int32_t ware_set_lpr_parking_detection_json(lpr_parking_detection_record *record, week_schedule_block *schedule,
+                                                   const char *body, int32_t bodySize, char *dst, int32_t dstSize);
 /* "areaType", "country/region", "areaList" (the `areaList` text as it stands,
    which must not be NULL), "nightModeEnable", "nightModeLevel". */
 MW_API int32_t ware_get_parking_general_json(const parking_general_record *in, const char *areaList, char *dst,
                                              int32_t dstSize);
+MW_API int32_t ware_schema_parking_general_json(const parking_general_record *in, const char *areaList, char *dst,
+                                                int32_t dstSize);
+MW_API int32_t ware_set_parking_general_json(parking_general_record *record, const char *areaList, const char *body,
+                                             int32_t bodySize, char *dst, int32_t dstSize);
 /* "enable", "permitVehicle", "residenceTime" (the reverse of the record's
    order), "detectionInfoList" (two regions, 0 and 1) and "scheduleList".
    Neither `in` nor `schedule` is tested for NULL. */
 MW_API int32_t ware_get_parking_violation_json(const parking_violation_record *in,
                                                const week_schedule_block *schedule, char *dst, int32_t dstSize);
+MW_API int32_t ware_schema_parking_violation_json(const parking_violation_record *in,
+                                                  const week_schedule_block *schedule, char *dst, int32_t dstSize);
+MW_API int32_t ware_set_parking_violation_json(parking_violation_record *record, week_schedule_block *schedule,
+                                               const char *body, int32_t bodySize, char *dst, int32_t dstSize);
 /* "enable", "weekday", "hour", "min", "sec", "timeRange", then "method" last. */
 MW_API int32_t ware_get_auto_export_json(const auto_export_record *in, char *dst, int32_t dstSize);
+MW_API int32_t ware_schema_auto_export_json(const auto_export_record *in, char *dst, int32_t dstSize);
+MW_API int32_t ware_set_auto_export_json(auto_export_record *record, const char *body, int32_t bodySize, char *dst,
+                                         int32_t dstSize);
 
 /* Vehicle counting on a traffic camera: the on-screen counter table (its
    left and top position), the automatic reset of the counts (day type and
@@ -233,6 +248,10 @@ typedef struct traffic_light_area_record {
 MW_API int32_t ware_get_vehicle_count_setting_json(const vehicle_count_setting_record *in,
                                                    const week_schedule_block *schedule, char *dst,
                                                    int32_t dstSize);
+MW_API int32_t ware_schema_vehicle_count_setting_json(const vehicle_count_setting_record *in,
+                                                      const week_schedule_block *schedule, char *dst, int32_t dstSize);
+MW_API int32_t ware_set_vehicle_count_setting_json(vehicle_count_setting_record *record, week_schedule_block *schedule,
+                                                   const char *body, int32_t bodySize, char *dst, int32_t dstSize);
 /* The violation-management document. Line ends are floats widened to double
    (0.1f prints as 0.10000000149011612). "normalPolygonList" is read from
    `polygons` ("polygonIndex" 0 to 3), which is not tested for NULL.
@@ -241,10 +260,19 @@ MW_API int32_t ware_get_vehicle_count_setting_json(const vehicle_count_setting_r
 MW_API int32_t ware_get_violation_management_json(const violation_management_record *in,
                                                   const violation_polygon_record *polygons, char *dst,
                                                   int32_t dstSize);
+MW_API int32_t ware_schema_violation_management_json(const violation_management_record *in,
+                                                     const violation_polygon_record *polygons, char *dst,
+                                                     int32_t dstSize);
+MW_API int32_t ware_set_violation_management_json(violation_management_record *record,
+                                                  violation_polygon_record *polygons, const char *body,
+                                                  int32_t bodySize, char *dst, int32_t dstSize);
 /* "trafficLightAreaList": the two groups, each with "areaList" of three
    areas numbered 1 to 3. */
 MW_API int32_t ware_get_traffic_light_area_json(const traffic_light_area_record *in, char *dst,
                                                 int32_t dstSize);
+MW_API int32_t ware_schema_traffic_light_area_json(const traffic_light_area_record *in, char *dst, int32_t dstSize);
+MW_API int32_t ware_set_traffic_light_area_json(traffic_light_area_record *record, const char *body, int32_t bodySize,
+                                                char *dst, int32_t dstSize);
 
 /* One HTTP receiver of licence-plate results. `eventMask` has one bit per
    event type posted to it; the password is written to the document as
@@ -322,8 +350,14 @@ typedef struct lpr_post_template_record {
    "httpList": always three targets, "index" 0 to 2, enabled or not), "tcp",
    "MQTT" and "postOptions" objects, "templateMode" and "more". */
 MW_API int32_t ware_get_lpr_post_json(const lpr_post_record *in, char *dst, int32_t dstSize);
+MW_API int32_t ware_schema_lpr_post_json(const lpr_post_record *in, char *dst, int32_t dstSize);
+MW_API int32_t ware_set_lpr_post_json(lpr_post_record *record, const char *body, int32_t bodySize, char *dst,
+                                      int32_t dstSize);
 /* "mode", "eventType", "data". */
 MW_API int32_t ware_get_lpr_post_template_json(const lpr_post_template_record *in, char *dst, int32_t dstSize);
+MW_API int32_t ware_schema_lpr_post_template_json(const lpr_post_template_record *in, char *dst, int32_t dstSize);
+MW_API int32_t ware_set_lpr_post_template_json(lpr_post_template_record *record, const char *body, int32_t bodySize,
+                                               char *dst, int32_t dstSize);
 
 /* ===== end traffic and parking ===== */
 

@@ -5,339 +5,355 @@
  */
 #include "internal.h"
 
-using mw::add;
+/* The group's functions are named ware_get_/ware_set_/ware_schema_<resource>.
+   A page over its record alone: */
+#define WARE_PAGE(resource, ...)                                                                             \
+    namespace {                                                                                              \
+    constexpr auto describe_##resource = __VA_ARGS__;                                                        \
+    }                                                                                                        \
+    int32_t ware_get_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)              \
+    {                                                                                                        \
+        return mw::render_page(dst, dstSize, describe_##resource, *in);                                      \
+    }                                                                                                        \
+    int32_t ware_schema_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)           \
+    {                                                                                                        \
+        return mw::schema_page(dst, dstSize, "ware_get_" #resource "_json", false, describe_##resource, *in); \
+    }                                                                                                        \
+    int32_t ware_set_##resource##_json(resource##_record *record, const char *body, int32_t bodySize,        \
+                                       char *dst, int32_t dstSize)                                           \
+    {                                                                                                        \
+        return mw::apply_page(describe_##resource, record, body, bodySize, dst, dstSize);                    \
+    }
+
+/* A page over its record and a second block kept apart by the firmware (the
+   week schedule, the violation polygons), named `second`. */
+#define WARE_PAGE_WITH(resource, Second, second, ...)                                                        \
+    namespace {                                                                                              \
+    constexpr auto describe_##resource = __VA_ARGS__;                                                        \
+    }                                                                                                        \
+    int32_t ware_get_##resource##_json(const resource##_record *in, const Second *second, char *dst,         \
+                                       int32_t dstSize)                                                      \
+    {                                                                                                        \
+        return mw::render_page(dst, dstSize, describe_##resource, *in, *second);                             \
+    }                                                                                                        \
+    int32_t ware_schema_##resource##_json(const resource##_record *in, const Second *second, char *dst,      \
+                                          int32_t dstSize)                                                   \
+    {                                                                                                        \
+        return mw::schema_page(dst, dstSize, "ware_get_" #resource "_json", false, describe_##resource, *in, \
+                               *second);                                                                     \
+    }                                                                                                        \
+    int32_t ware_set_##resource##_json(resource##_record *record, Second *second, const char *body,          \
+                                       int32_t bodySize, char *dst, int32_t dstSize)                         \
+    {                                                                                                        \
+        return mw::apply_page(describe_##resource, record, second, body, bodySize, dst, dstSize);            \
+    }
 
 namespace {
 
 /* "detectionInfoList": one object per region, "regionIndex" counted from 0,
    the region's name and its corners as the two polygon texts. */
-template <size_t Count>
-void add_detection_regions(cJSON *root, const parking_region_entry (&regions)[Count])
+template <typename A, typename Regions>
+void detection_regions(A &a, Regions &regions)
 {
-    cJSON *list = mw::array(root, "detectionInfoList");
-    for (int32_t i = 0; i < static_cast<int32_t>(Count); ++i) {
-        const parking_region_entry &region = regions[i];
-        cJSON *item = mw::append_object(list);
-        add(item, "regionIndex", i);
-        add(item, "name", region.name);
-        mw::add_string(item, "polygonX", mw::polygon_text(region.pointX, 4).text);
-        mw::add_string(item, "polygonY", mw::polygon_text(region.pointY, 4).text);
-    }
+    a.list("detectionInfoList", "regionIndex", [&](auto &l) {
+        for (int32_t i = 0; i < static_cast<int32_t>(sizeof regions / sizeof regions[0]); ++i) {
+            auto &region = regions[i];
+            l.item(i, [&](auto &item) {
+                item("name", region.name);
+                item.derived("polygonX", mw::polygon_text(region.pointX, 4).text);
+                item.derived("polygonY", mw::polygon_text(region.pointY, 4).text);
+            });
+        }
+    });
+}
+
+/* A stop or trigger line as a nested object: its switch and two end points. */
+template <typename A, typename Line>
+void trigger_line_object(A &a, const char *key, Line &line)
+{
+    a.object(mw::Name::fixed(key), [&](auto &item) {
+        item("enable", line.enable);
+        item("startX", line.startX);
+        item("startY", line.startY);
+        item("endX", line.endX);
+        item("endY", line.endY);
+    });
 }
 
 } // namespace
 
 /* ---- parking detection and parking settings ---- */
 
-int32_t ware_get_lpr_parking_detection_json(const lpr_parking_detection_record *in,
-                                            const week_schedule_block *schedule, char *dst, int32_t dstSize)
+WARE_PAGE_WITH(lpr_parking_detection, week_schedule_block, schedule, [](auto &a, auto &r, auto &week) {
+    a("enable", r.enable);
+    detection_regions(a, r.regions);
+    mw::schedule_list(a, week.schedule);
+    a("pullEnable", r.pullEnable);
+    a("pullAgain", r.pullAgain);
+    a("afterTime", r.afterTime);
+    a("periodicEnable", r.periodicEnable);
+    a("period", r.period);
+    a("attachSnap", r.attachSnap);
+    a("postType", r.postType);
+    a("tcpPort", r.tcpPort);
+    a("httpUrl", r.httpUrl);
+    a("httpUser", r.httpUser);
+    a("httpPwd", r.httpPwd);
+    a("saveSnap", r.saveSnap);
+})
+
+namespace {
+/* The area list is the caller's text, shown as it stands. */
+auto describe_parking_general(const char *areaList)
 {
-    return mw::document(dst, dstSize, [in, schedule](cJSON *root) {
-        add(root, "enable", in->enable);
-        add_detection_regions(root, in->regions);
-        mw::add_schedule_list(root, schedule->schedule);
-        add(root, "pullEnable", in->pullEnable);
-        add(root, "pullAgain", in->pullAgain);
-        add(root, "afterTime", in->afterTime);
-        add(root, "periodicEnable", in->periodicEnable);
-        add(root, "period", in->period);
-        add(root, "attachSnap", in->attachSnap);
-        add(root, "postType", in->postType);
-        add(root, "tcpPort", in->tcpPort);
-        add(root, "httpUrl", in->httpUrl);
-        add(root, "httpUser", in->httpUser);
-        add(root, "httpPwd", in->httpPwd);
-        add(root, "saveSnap", in->saveSnap);
-    });
+    return [areaList](auto &a, auto &r) {
+        a("areaType", r.areaType);
+        a("country/region", r.countryRegion);
+        a.derived_text("areaList", areaList);
+        a("nightModeEnable", r.nightModeEnable);
+        a("nightModeLevel", r.nightModeLevel);
+    };
 }
+} // namespace
 
 int32_t ware_get_parking_general_json(const parking_general_record *in, const char *areaList, char *dst,
                                       int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [in, areaList](cJSON *root) {
-        add(root, "areaType", in->areaType);
-        add(root, "country/region", in->countryRegion);
-        mw::add_string(root, "areaList", areaList);
-        add(root, "nightModeEnable", in->nightModeEnable);
-        add(root, "nightModeLevel", in->nightModeLevel);
-    });
+    return mw::render_page(dst, dstSize, describe_parking_general(areaList), *in);
 }
 
-int32_t ware_get_parking_violation_json(const parking_violation_record *in, const week_schedule_block *schedule,
-                                        char *dst, int32_t dstSize)
+int32_t ware_schema_parking_general_json(const parking_general_record *in, const char *areaList, char *dst,
+                                         int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [in, schedule](cJSON *root) {
-        add(root, "enable", in->enable);
-        add(root, "permitVehicle", in->permitVehicle);
-        add(root, "residenceTime", in->residenceTime);
-        add_detection_regions(root, in->regions);
-        mw::add_schedule_list(root, schedule->schedule);
-    });
+    return mw::schema_page(dst, dstSize, "ware_get_parking_general_json", false, describe_parking_general(areaList),
+                           *in);
 }
 
-int32_t ware_get_auto_export_json(const auto_export_record *in, char *dst, int32_t dstSize)
+int32_t ware_set_parking_general_json(parking_general_record *record, const char *areaList, const char *body,
+                                      int32_t bodySize, char *dst, int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enable", in->enable);
-        add(root, "weekday", in->weekday);
-        add(root, "hour", in->hour);
-        add(root, "min", in->min);
-        add(root, "sec", in->sec);
-        add(root, "timeRange", in->timeRange);
-        add(root, "method", in->method);
-    });
+    return mw::apply_page(describe_parking_general(areaList), record, body, bodySize, dst, dstSize);
 }
+
+WARE_PAGE_WITH(parking_violation, week_schedule_block, schedule, [](auto &a, auto &r, auto &week) {
+    a("enable", r.enable);
+    a("permitVehicle", r.permitVehicle);
+    a("residenceTime", r.residenceTime);
+    detection_regions(a, r.regions);
+    mw::schedule_list(a, week.schedule);
+})
+
+WARE_PAGE(auto_export, [](auto &a, auto &r) {
+    a("enable", r.enable);
+    a("weekday", r.weekday);
+    a("hour", r.hour);
+    a("min", r.min);
+    a("sec", r.sec);
+    a("timeRange", r.timeRange);
+    a("method", r.method);
+})
 
 /* ---- vehicle counting, violation management, traffic lights ---- */
 
-namespace {
+WARE_PAGE_WITH(vehicle_count_setting, week_schedule_block, schedule, [](auto &a, auto &r, auto &week) {
+    a("enable", r.enable);
+    a("showInformation", r.showInformation);
+    a("countType", r.countType);
+    a("autoReset", r.autoReset);
+    a("resetDayType", r.resetDayType);
+    a("resetHour", r.resetHour);
+    a("resetMin", r.resetMin);
+    a("resetSec", r.resetSec);
+    a("infoTableLeft", r.infoTableLeft);
+    a("infoTableTop", r.infoTableTop);
+    a("enablePost", r.enablePost);
+    a("postMode", r.postMode);
+    a("attachSnapshot", r.attachSnapshot);
+    a("postType", r.postType);
+    a("timeHour", r.timeHour);
+    a("timeMin", r.timeMin);
+    a("timeSec", r.timeSec);
+    a("cameraPort", r.cameraPort);
+    a("interval", r.interval);
 
-/* A stop or trigger line as a nested object: its switch and two end points. */
-void add_trigger_line(cJSON *root, const char *key, const trigger_line &line)
-{
-    cJSON *item = mw::object(root, key);
-    add(item, "enable", line.enable);
-    add(item, "startX", line.startX);
-    add(item, "startY", line.startY);
-    add(item, "endX", line.endX);
-    add(item, "endY", line.endY);
-}
+    // The first target's texts once more on the root, enabled or not: set
+    // them in "httpList".
+    a.derived("httpUrl", r.httpUrl[0]);
+    a.derived("userName", r.httpUser[0]);
+    a.derived("password", r.httpPassword[0]);
 
-/* Four values as a JSON integer array under `key`. */
-void add_int_array(cJSON *parent, const char *key, const int32_t (&values)[4])
-{
-    cJSON *list = cJSON_CreateIntArray(values, 4);
-    if (list != nullptr && !cJSON_AddItemToObject(parent, key, list))
-        cJSON_Delete(list);
-}
-
-/* An object hung under `key` with cJSON_AddItemToObject directly; NULL (and
-   nothing left behind) when it cannot be attached. */
-cJSON *plain_object(cJSON *parent, const char *key)
-{
-    cJSON *item = cJSON_CreateObject();
-    if (item != nullptr && !cJSON_AddItemToObject(parent, key, item)) {
-        cJSON_Delete(item);
-        return nullptr;
-    }
-    return item;
-}
-
-} // namespace
-
-int32_t ware_get_vehicle_count_setting_json(const vehicle_count_setting_record *in,
-                                            const week_schedule_block *schedule, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in, schedule](cJSON *root) {
-        add(root, "enable", in->enable);
-        add(root, "showInformation", in->showInformation);
-        add(root, "countType", in->countType);
-        add(root, "autoReset", in->autoReset);
-        add(root, "resetDayType", in->resetDayType);
-        add(root, "resetHour", in->resetHour);
-        add(root, "resetMin", in->resetMin);
-        add(root, "resetSec", in->resetSec);
-        add(root, "infoTableLeft", in->infoTableLeft);
-        add(root, "infoTableTop", in->infoTableTop);
-        add(root, "enablePost", in->enablePost);
-        add(root, "postMode", in->postMode);
-        add(root, "attachSnapshot", in->attachSnapshot);
-        add(root, "postType", in->postType);
-        add(root, "timeHour", in->timeHour);
-        add(root, "timeMin", in->timeMin);
-        add(root, "timeSec", in->timeSec);
-        add(root, "cameraPort", in->cameraPort);
-        add(root, "interval", in->interval);
-
-        // The first target's texts once more on the root, enabled or not.
-        add(root, "httpUrl", in->httpUrl[0]);
-        add(root, "userName", in->httpUser[0]);
-        add(root, "password", in->httpPassword[0]);
-
-        cJSON *targets = mw::array(root, "httpList");
+    a.list("httpList", "index", [&](auto &l) {
         for (int32_t k = 0; k < 3; ++k) {
-            cJSON *target = mw::append_object(targets);
-            add(target, "index", k);
-            add(target, "enable", in->httpEnable[k]);
-            add(target, "url", in->httpUrl[k]);
-            add(target, "user", in->httpUser[k]);
-            add(target, "password", in->httpPassword[k]);
+            l.item(k, [&](auto &target) {
+                target("enable", r.httpEnable[k]);
+                target("url", r.httpUrl[k]);
+                target("user", r.httpUser[k]);
+                target("password", r.httpPassword[k]);
+            });
         }
-        mw::add_schedule_list(root, schedule->schedule);
     });
-}
+    mw::schedule_list(a, week.schedule);
+})
 
-int32_t ware_get_violation_management_json(const violation_management_record *in,
-                                           const violation_polygon_record *polygons, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in, polygons](cJSON *root) {
-        add_int_array(root, "laneDirection", in->laneDirection);
-        add_trigger_line(root, "stopLine", in->stopLine);
-        add_trigger_line(root, "straightTriggerLine", in->straightTriggerLine);
-        add_trigger_line(root, "leftTurnTriggerLine", in->leftTurnTriggerLine);
-        add_trigger_line(root, "rightTurnTriggerLine", in->rightTurnTriggerLine);
-        add(root, "noPlatesEnable", in->noPlatesEnable);
+WARE_PAGE_WITH(violation_management, violation_polygon_record, polygons, [](auto &a, auto &r, auto &polygons) {
+    a.numbers("laneDirection", r.laneDirection);
+    trigger_line_object(a, "stopLine", r.stopLine);
+    trigger_line_object(a, "straightTriggerLine", r.straightTriggerLine);
+    trigger_line_object(a, "leftTurnTriggerLine", r.leftTurnTriggerLine);
+    trigger_line_object(a, "rightTurnTriggerLine", r.rightTurnTriggerLine);
+    a("noPlatesEnable", r.noPlatesEnable);
 
-        cJSON *redLight = mw::object(root, "redLightRunning");
-        add(redLight, "enable", in->redLightRunningEnable);
-        add(redLight, "triggerCondition", in->redLightTriggerCondition);
-        add(redLight, "flaseStartEnable", in->flaseStartEnable);
+    a.object("redLightRunning", [&](auto &redLight) {
+        redLight("enable", r.redLightRunningEnable);
+        redLight("triggerCondition", r.redLightTriggerCondition);
+        redLight("flaseStartEnable", r.flaseStartEnable);
+    });
+    a.object("crossLineAtRedLight", [&](auto &crossLine) {
+        crossLine("enable", r.crossLineEnable);
+        crossLine("triggerCondition", r.crossLineTriggerCondition);
+    });
+    a.object("signalDocking", [&](auto &docking) {
+        docking("dockingMode", r.dockingMode);
+        docking("straightLaneRedLightInputNum", r.straightLaneRedLightInputNum);
+        docking("straightLaneYellowLightInputNum", r.straightLaneYellowLightInputNum);
+        docking("leftTurnLaneRedLightInputNum", r.leftTurnLaneRedLightInputNum);
+        docking("leftTurnLaneYellowLightInputNum", r.leftTurnLaneYellowLightInputNum);
+        docking("rightTurnLaneRedLightInputNum", r.rightTurnLaneRedLightInputNum);
+        docking("rightTurnLaneYellowLightInputNum", r.rightTurnLaneYellowLightInputNum);
+    });
+    a("delayOnRedLight", r.delayOnRedLight); // on the root, not with the docking inputs
+    a.object("reverseDriving", [&](auto &reverse) {
+        reverse("enable", r.reverseDrivingEnable);
+        reverse.numbers("triggerCondition", r.reverseTriggerCondition);
+    });
+    a("violationCapture", r.violationCapture);
+    a("plateCapture", r.plateCapture);
+    a("targetCapture", r.targetCapture);
 
-        cJSON *crossLine = mw::object(root, "crossLineAtRedLight");
-        add(crossLine, "enable", in->crossLineEnable);
-        add(crossLine, "triggerCondition", in->crossLineTriggerCondition);
-
-        cJSON *docking = mw::object(root, "signalDocking");
-        add(docking, "dockingMode", in->dockingMode);
-        add(docking, "straightLaneRedLightInputNum", in->straightLaneRedLightInputNum);
-        add(docking, "straightLaneYellowLightInputNum", in->straightLaneYellowLightInputNum);
-        add(docking, "leftTurnLaneRedLightInputNum", in->leftTurnLaneRedLightInputNum);
-        add(docking, "leftTurnLaneYellowLightInputNum", in->leftTurnLaneYellowLightInputNum);
-        add(docking, "rightTurnLaneRedLightInputNum", in->rightTurnLaneRedLightInputNum);
-        add(docking, "rightTurnLaneYellowLightInputNum", in->rightTurnLaneYellowLightInputNum);
-        add(root, "delayOnRedLight", in->delayOnRedLight); // on the root, not with the docking inputs
-
-        cJSON *reverse = mw::object(root, "reverseDriving");
-        add(reverse, "enable", in->reverseDrivingEnable);
-        add_int_array(reverse, "triggerCondition", in->reverseTriggerCondition);
-
-        add(root, "violationCapture", in->violationCapture);
-        add(root, "plateCapture", in->plateCapture);
-        add(root, "targetCapture", in->targetCapture);
-
-        mw::PolygonText xs[4];
-        mw::PolygonText ys[4];
+    a.list("normalPolygonList", "polygonIndex", [&](auto &l) {
         for (int32_t p = 0; p < 4; ++p) {
-            xs[p] = mw::polygon_text(polygons->normalPolygons[p].pointX, 4);
-            ys[p] = mw::polygon_text(polygons->normalPolygons[p].pointY, 4);
-        }
-        cJSON *polygonList = mw::array(root, "normalPolygonList");
-        for (int32_t p = 0; p < 4; ++p) {
-            cJSON *polygon = mw::append_object(polygonList);
-            add(polygon, "polygonIndex", p);
-            add(polygon, "name", polygons->normalPolygons[p].name);
-            mw::add_string(polygon, "polygonX", xs[p].text);
-            mw::add_string(polygon, "polygonY", ys[p].text);
-        }
-
-        add(root, "speedMonitoringEnable", in->speedMonitoringEnable);
-        // The region keys count from 1, their "index" from 0.
-        cJSON *speeds = plain_object(root, "speedMonitoringListNew");
-        for (int32_t r = 0; r < 4; ++r) {
-            cJSON *region = mw::object(speeds, mw::Key<30>("region%d", r + 1));
-            add(region, "index", r);
-            cJSON *rules = mw::array(region, "rule");
-            for (int32_t k = 0; k < 3; ++k) {
-                const speed_rule_entry &rule = in->speedRules[r][k];
-                cJSON *item = mw::append_object(rules);
-                add(item, "minSpeedEnable", rule.minSpeedEnable);
-                add(item, "minSpeedThr", rule.minSpeedThr);
-                add(item, "maxSpeedEnable", rule.maxSpeedEnable);
-                add(item, "maxSpeedThr", rule.maxSpeedThr);
-                add(item, "vehicleType", rule.vehicleType);
-            }
+            auto &polygon = polygons.normalPolygons[p];
+            l.item(p, [&](auto &item) {
+                item("name", polygon.name);
+                item.derived("polygonX", mw::polygon_text(polygon.pointX, 4).text);
+                item.derived("polygonY", mw::polygon_text(polygon.pointY, 4).text);
+            });
         }
     });
-}
 
-int32_t ware_get_traffic_light_area_json(const traffic_light_area_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        cJSON *groups = mw::array(root, "trafficLightAreaList");
-        for (int32_t g = 0; g < 2; ++g) {
-            const traffic_light_group &group = in->groups[g];
-            cJSON *item = mw::append_object(groups);
-            add(item, "id", group.id);
-            add(item, "straightLane", group.straightLane);
-            add(item, "leftTurnLane", group.leftTurnLane);
-            add(item, "rightTurnLane", group.rightTurnLane);
-            cJSON *areas = mw::array(item, "areaList");
-            for (int32_t a = 0; a < 3; ++a) {
-                const traffic_light_rect &rect = group.area[a];
-                cJSON *area = mw::append_object(areas);
-                add(area, "index", a + 1); // areas count from 1
-                add(area, "color", group.color[a]);
-                add(area, "left", rect.left);
-                add(area, "top", rect.top);
-                add(area, "right", rect.right);
-                add(area, "bottom", rect.bottom);
-            }
+    a("speedMonitoringEnable", r.speedMonitoringEnable);
+    // The region keys count from 1, their "index" from 0.
+    a.object("speedMonitoringListNew", [&](auto &speeds) {
+        for (int32_t region = 0; region < 4; ++region) {
+            speeds.object(mw::Key<30>("region%d", region + 1), [&](auto &o) {
+                o.derived("index", region);
+                o.list("rule", nullptr, [&](auto &l) {
+                    for (auto &rule : r.speedRules[region]) {
+                        l.item([&](auto &item) {
+                            item("minSpeedEnable", rule.minSpeedEnable);
+                            item("minSpeedThr", rule.minSpeedThr);
+                            item("maxSpeedEnable", rule.maxSpeedEnable);
+                            item("maxSpeedThr", rule.maxSpeedThr);
+                            item("vehicleType", rule.vehicleType);
+                        });
+                    }
+                });
+            });
         }
     });
-}
+})
+
+WARE_PAGE(traffic_light_area, [](auto &a, auto &r) {
+    a.list("trafficLightAreaList", nullptr, [&](auto &groups) {
+        for (auto &group : r.groups) {
+            groups.item([&](auto &item) {
+                item("id", group.id);
+                item("straightLane", group.straightLane);
+                item("leftTurnLane", group.leftTurnLane);
+                item("rightTurnLane", group.rightTurnLane);
+                item.list("areaList", "index", [&](auto &areas) {
+                    for (int32_t k = 0; k < 3; ++k) {
+                        auto &rect = group.area[k];
+                        areas.item(k + 1, [&](auto &area) { // areas count from 1
+                            area("color", group.color[k]);
+                            area("left", rect.left);
+                            area("top", rect.top);
+                            area("right", rect.right);
+                            area("bottom", rect.bottom);
+                        });
+                    }
+                });
+            });
+        }
+    });
+})
 
 /* ---- licence-plate result posting ---- */
 
-int32_t ware_get_lpr_post_json(const lpr_post_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "postEvents", in->postEvents);
-        add(root, "automaticRetransmission", in->automaticRetransmission);
+WARE_PAGE(lpr_post, [](auto &a, auto &r) {
+    a("postEvents", r.postEvents);
+    a("automaticRetransmission", r.automaticRetransmission);
 
-        cJSON *http = mw::object(root, "http");
-        add(http, "enable", in->httpEnable);
-        cJSON *targets = mw::array(http, "httpList");
-        for (int32_t k = 0; k < 3; ++k) { // all three, enabled or not
-            const http_post_target &target = in->httpTargets[k];
-            cJSON *item = mw::append_object(targets);
-            add(item, "index", k);
-            add(item, "enable", target.enable);
-            add(item, "url", target.url);
-            add(item, "user", target.user);
-            add(item, "password", target.password);
-            add(item, "method", target.method);
-            add(item, "snapshotType", target.snapshotType);
-            add(item, "eventMask", target.eventMask);
-        }
-
-        cJSON *tcp = mw::object(root, "tcp");
-        add(tcp, "enable", in->tcpEnable);
-        add(tcp, "port", in->tcpPort);
-        add(tcp, "eventMask", in->tcpEventMask);
-
-        cJSON *mqtt = mw::object(root, "MQTT");
-        add(mqtt, "enable", in->mqttEnable);
-        add(mqtt, "topic", in->mqttTopic);
-        add(mqtt, "port", in->mqttPort);
-        add(mqtt, "host", in->mqttHost);
-        add(mqtt, "user", in->mqttUser);
-        add(mqtt, "password", in->mqttPassword);
-        add(mqtt, "eventMask", in->mqttEventMask);
-
-        const post_options &options = in->postOptions;
-        cJSON *items = mw::object(root, "postOptions");
-        add(items, "eventType", options.eventType);
-        add(items, "deviceInfo", options.deviceInfo);
-        add(items, "time", options.time);
-        add(items, "detectionRegion", options.detectionRegion);
-        add(items, "plate", options.plate);
-        add(items, "country", options.country);
-        add(items, "plateType", options.plateType);
-        add(items, "plateColor", options.plateColor);
-        add(items, "vehicleType", options.vehicleType);
-        add(items, "vehicleColor", options.vehicleColor);
-        add(items, "brand", options.brand);
-        add(items, "direction", options.direction);
-        add(items, "eventData", options.eventData);
-        add(items, "plateCoordinate", options.plateCoordinate);
-        add(items, "vehicleCoordinate", options.vehicleCoordinate);
-        add(items, "gps", options.gps); // before the images, though stored after them
-        add(items, "plateImage", options.plateImage);
-        add(items, "vehicleImage", options.vehicleImage);
-        add(items, "fullImage", options.fullImage);
-        add(items, "violationImage", options.violationImage);
-
-        add(root, "templateMode", in->templateMode);
-        cJSON *more = mw::object(root, "more");
-        add(more, "metadataEnable", in->metadataEnable);
+    a.object("http", [&](auto &http) {
+        http("enable", r.httpEnable);
+        http.list("httpList", "index", [&](auto &l) {
+            for (int32_t k = 0; k < 3; ++k) { // all three, enabled or not
+                auto &target = r.httpTargets[k];
+                l.item(k, [&](auto &item) {
+                    item("enable", target.enable);
+                    item("url", target.url);
+                    item("user", target.user);
+                    item("password", target.password);
+                    item("method", target.method);
+                    item("snapshotType", target.snapshotType);
+                    item("eventMask", target.eventMask);
+                });
+            }
+        });
     });
-}
-
-int32_t ware_get_lpr_post_template_json(const lpr_post_template_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "mode", in->mode);
-        add(root, "eventType", in->eventType);
-        add(root, "data", in->data);
+    a.object("tcp", [&](auto &tcp) {
+        tcp("enable", r.tcpEnable);
+        tcp("port", r.tcpPort);
+        tcp("eventMask", r.tcpEventMask);
     });
-}
+    a.object("MQTT", [&](auto &mqtt) {
+        mqtt("enable", r.mqttEnable);
+        mqtt("topic", r.mqttTopic);
+        mqtt("port", r.mqttPort);
+        mqtt("host", r.mqttHost);
+        mqtt("user", r.mqttUser);
+        mqtt("password", r.mqttPassword);
+        mqtt("eventMask", r.mqttEventMask);
+    });
+    auto &options = r.postOptions;
+    a.object("postOptions", [&](auto &items) {
+        items("eventType", options.eventType);
+        items("deviceInfo", options.deviceInfo);
+        items("time", options.time);
+        items("detectionRegion", options.detectionRegion);
+        items("plate", options.plate);
+        items("country", options.country);
+        items("plateType", options.plateType);
+        items("plateColor", options.plateColor);
+        items("vehicleType", options.vehicleType);
+        items("vehicleColor", options.vehicleColor);
+        items("brand", options.brand);
+        items("direction", options.direction);
+        items("eventData", options.eventData);
+        items("plateCoordinate", options.plateCoordinate);
+        items("vehicleCoordinate", options.vehicleCoordinate);
+        items("gps", options.gps); // before the images, though stored after them
+        items("plateImage", options.plateImage);
+        items("vehicleImage", options.vehicleImage);
+        items("fullImage", options.fullImage);
+        items("violationImage", options.violationImage);
+    });
+    a("templateMode", r.templateMode);
+    a.object("more", [&](auto &more) { more("metadataEnable", r.metadataEnable); });
+})
+
+WARE_PAGE(lpr_post_template, [](auto &a, auto &r) {
+    a("mode", r.mode);
+    a("eventType", r.eventType);
+    a("data", r.data);
+})

@@ -3,7 +3,8 @@
 // what values they take; the laws are checked at every key that way:
 //   - posting the rendered document back changes nothing;
 //   - a document changed at one settable key (both ends of its range, the
-//     longest text) applies, and the next render shows that change alone;
+//     longest text) applies, and the next render shows that change alone
+//     (and read-only repeats of the same member showing the new value);
 //   - every refusal rule names the right key path and leaves the record
 //     byte-identical;
 //   - seeded random records round-trip too;
@@ -330,8 +331,22 @@ TEST_P(SetLaws, EachKeyTakesItsValuesAndChangesNothingElse)
             std::string reply;
             ASSERT_EQ(state.set(print(changed), &reply), 0) << leaf.path << ": " << reply;
             cJSON *after = parse(state.render());
-            EXPECT_TRUE(cJSON_Compare(after, changed, true))
+            // A read-only key that shows the same member a second time (the
+            // first target's address repeated on the root) follows it: it
+            // may change, and only to the value set.
+            cJSON *expected = cJSON_Duplicate(changed, true);
+            for (const Leaf &other : map_->leaves) {
+                const cJSON *now = locate(after, other.steps);
+                if (other.readOnly && now != nullptr && !cJSON_Compare(now, locate(changed, other.steps), true) &&
+                    cJSON_Compare(now, value, true)) {
+                    cJSON *repeated = with_value(expected, other.steps, cJSON_Duplicate(value, true));
+                    cJSON_Delete(expected);
+                    expected = repeated;
+                }
+            }
+            EXPECT_TRUE(cJSON_Compare(after, expected, true))
                 << leaf.path << " set to " << print(value) << " rendered\n" << print(after);
+            cJSON_Delete(expected);
             cJSON_Delete(after);
             cJSON_Delete(changed);
         }

@@ -315,149 +315,139 @@ camera_all_capability_record sample_all_capability()
     return r;
 }
 
+camera_manual_white_led_settings_record sample_camera_manual_white_led_settings()
+{
+    camera_manual_white_led_settings_record w{};
+    w.flashTime = 40;
+    w.flashMode = 1;
+    w.effectiveGroup = 2;
+    return w;
+}
+
+camera_white_led_parameter_record sample_camera_white_led_parameter()
+{
+    return camera_white_led_parameter_record{1, 2, 0};
+}
+
+camera_lens_record sample_camera_lens()
+{
+    camera_lens_record l{};
+    l.lensIrisType = 1;
+    l.lensIrisMode = 2;
+    l.lensZoomPos = 37;
+    return l;
+}
+
+camera_while_led_record sample_camera_while_led()
+{
+    return camera_while_led_record{2, 3, 30, 19, 30, 6, 15, 1, 70, 0};
+}
+
+camera_ir_value_record sample_camera_ir_value()
+{
+    return camera_ir_value_record{412, 0, 35, 60, 85, 40, 55};
+}
+
+camera_setting_day_night_record sample_camera_setting_day_night()
+{
+    camera_setting_day_night_record p{};
+    p.day = camera_day_night_profile{{0, 0}, 50, 1, 30, 40, 2, 0, 0, 1, 0, 0};
+    p.night = camera_day_night_profile{{0, 0}, 60, 1, 8, 80, 4, 1, 1, 0, 1, 0};
+    p.isSupportWhiteledGroup = 1;
+    p.dayWhiteledGroup = 0;
+    p.nightWhiteledGroup = 2;
+    return p;
+}
+
+camera_day_night_schedule_record sample_camera_day_night_schedule()
+{
+    camera_day_night_schedule_record s{};
+    put(s.schedule[0], "06:30-19:45");
+    put(s.schedule[1], "19:45-23:59");
+    put(s.schedule[2], "00:00-06:30");
+    return s;
+}
+
+camera_ptz_record sample_camera_ptz()
+{
+    camera_ptz_record p{};
+    p.ptzSpeed = 6;
+    return p;
+}
+
+camera_white_led_status_record sample_camera_white_led_status()
+{
+    return camera_white_led_status_record{1};
+}
+
+camera_crop_roi_enable_record sample_camera_crop_roi_enable()
+{
+    return camera_crop_roi_enable_record{1};
+}
+
+camera_roi_settings_record sample_camera_roi_settings()
+{
+    camera_roi_settings_record c{};
+    c.regions[0] = camera_crop_roi_entry{1, 0, 0, 0, 0};
+    c.regions[1] = camera_crop_roi_entry{1, 12, 20, 0, 1};
+    c.regions[2] = camera_crop_roi_entry{1, 55, 30, 0, 2};
+    c.regions[3] = camera_crop_roi_entry{0, 0, 0, 0, 1};
+    return c;
+}
+
+camera_model_general_record sample_camera_model_general()
+{
+    return camera_model_general_record{1, 1, 0, 1, 1, 1, 0, 1, 30, 1, 3, 1, 4, 1, 0, 0, 0, 1};
+}
+
+camera_fish_view_field_record sample_camera_fish_view_field()
+{
+    return camera_fish_view_field_record{180};
+}
+
 const CatalogEntry entries[] = {
-    {"get_camera_setting_json", "image settings, weekly image-mode task lists and day/night schedule",
-     [](char *dst, int32_t n) {
-         static const camera_setting_record r = sample_setting();
-         return get_camera_setting_json(&r, dst, n);
-     }},
-    {"get_camera_setting_day_night_json", "day and night exposure profiles",
-     [](char *dst, int32_t n) {
-         static const camera_setting_day_night_record r = [] {
-             camera_setting_day_night_record p{};
-             p.day = camera_day_night_profile{{0, 0}, 50, 1, 30, 40, 2, 0, 0, 1, 0, 0};
-             p.night = camera_day_night_profile{{0, 0}, 60, 1, 8, 80, 4, 1, 1, 0, 1, 0};
-             p.isSupportWhiteledGroup = 1;
-             p.dayWhiteledGroup = 0;
-             p.nightWhiteledGroup = 2;
-             return p;
-         }();
-         return get_camera_setting_day_night_json(&r, dst, n);
-     }},
-    {"get_camera_day_night_schedule_json", "the five day/night schedule texts",
-     [](char *dst, int32_t n) {
-         static const camera_day_night_schedule_record r = [] {
-             camera_day_night_schedule_record s{};
-             put(s.schedule[0], "06:30-19:45");
-             put(s.schedule[1], "19:45-23:59");
-             put(s.schedule[2], "00:00-06:30");
-             return s;
-         }();
-         return get_camera_day_night_schedule_json(&r, dst, n);
-     }},
-    {"get_camera_sensor_image_json", "traffic flash settings and per-sensor exposure by image mode",
-     [](char *dst, int32_t n) {
-         static const camera_sensor_image_record r = sample_sensor_image();
-         return get_camera_sensor_image_json(&r, dst, n);
-     }},
-    {"get_camera_ptz_json", "PTZ speed seen from the image page",
-     [](char *dst, int32_t n) {
-         static const camera_ptz_record r = [] {
-             camera_ptz_record p{};
-             p.ptzSpeed = 6;
-             return p;
-         }();
-         return get_camera_ptz_json(&r, dst, n);
-     }},
-    {"get_camera_mask_json", "privacy masks of both sensors",
-     [](char *dst, int32_t n) {
-         static const camera_mask_record r = sample_mask();
-         return get_camera_mask_json(&r, dst, n);
-     }},
-    {"get_camera_snapshot_settings_json", "timed snapshots: storage, uploads, notifications, schedule",
-     [](char *dst, int32_t n) {
-         static const camera_snapshot_settings_record r = sample_snapshot();
-         return get_camera_snapshot_settings_json(&r, dst, n);
-     }},
-    {"get_camera_manual_white_led_settings_json", "white-light flash set by hand",
-     [](char *dst, int32_t n) {
-         static const camera_manual_white_led_settings_record r = [] {
-             camera_manual_white_led_settings_record w{};
-             w.flashTime = 40;
-             w.flashMode = 1;
-             w.effectiveGroup = 2;
-             return w;
-         }();
-         return get_camera_manual_white_led_settings_json(&r, dst, n);
-     }},
-    {"get_camera_white_led_status_json", "white light on or off",
-     [](char *dst, int32_t n) {
-         static const camera_white_led_status_record r{1};
-         return get_camera_white_led_status_json(&r, dst, n);
-     }},
-    {"get_camera_crop_roi_enable_json", "crop regions of interest switched on",
-     [](char *dst, int32_t n) {
-         static const camera_crop_roi_enable_record r{1};
-         return get_camera_crop_roi_enable_json(&r, dst, n);
-     }},
-    {"get_camera_roi_settings_json", "the five crop regions of interest",
-     [](char *dst, int32_t n) {
-         static const camera_roi_settings_record r = [] {
-             camera_roi_settings_record c{};
-             c.regions[0] = camera_crop_roi_entry{1, 0, 0, 0, 0};
-             c.regions[1] = camera_crop_roi_entry{1, 12, 20, 0, 1};
-             c.regions[2] = camera_crop_roi_entry{1, 55, 30, 0, 2};
-             c.regions[3] = camera_crop_roi_entry{0, 0, 0, 0, 1};
-             return c;
-         }();
-         return get_camera_roi_settings_json(&r, dst, n);
-     }},
-    {"get_camera_crop_roi_track_json", "crop-region tracking and the areas' weekly schedules",
-     [](char *dst, int32_t n) {
-         static const camera_crop_roi_track_record r = sample_crop_roi_track();
-         return get_camera_crop_roi_track_json(&r, dst, n);
-     }},
-    {"get_camera_white_led_parameter_json", "white light on alarm, group number, manual mode",
-     [](char *dst, int32_t n) {
-         static const camera_white_led_parameter_record r{1, 2, 0};
-         return get_camera_white_led_parameter_json(&r, dst, n);
-     }},
-    {"get_camera_roi_info_json", "region-of-interest texts per stream",
-     [](char *dst, int32_t n) {
-         static const camera_roi_info_record r = sample_roi_info();
-         return get_camera_roi_info_json(&r, dst, n);
-     }},
-    {"get_camera_lens_json", "iris type and mode, zoom position",
-     [](char *dst, int32_t n) {
-         static const camera_lens_record r = [] {
-             camera_lens_record l{};
-             l.lensIrisType = 1;
-             l.lensIrisMode = 2;
-             l.lensZoomPos = 37;
-             return l;
-         }();
-         return get_camera_lens_json(&r, dst, n);
-     }},
-    {"get_camera_while_led_json", "white-light control: mode, sensitivity, timed window, brightness",
-     [](char *dst, int32_t n) {
-         static const camera_while_led_record r{2, 3, 30, 19, 30, 6, 15, 1, 70, 0};
-         return get_camera_while_led_json(&r, dst, n);
-     }},
-    {"get_camera_ir_value_json", "IR light sensor reading and illuminator strengths",
-     [](char *dst, int32_t n) {
-         static const camera_ir_value_record r{412, 0, 35, 60, 85, 40, 55};
-         return get_camera_ir_value_json(&r, dst, n);
-     }},
-    {"get_camera_model_general_json", "what the camera model supports",
-     [](char *dst, int32_t n) {
-         static const camera_model_general_record r{1, 1, 0, 1, 1, 1, 0, 1, 30, 1, 3, 1, 4, 1, 0, 0, 0, 1};
-         return get_camera_model_general_json(&r, dst, n);
-     }},
-    {"get_camera_fish_presets_json", "the fisheye views' presets, one key per preset id",
-     [](char *dst, int32_t n) {
-         static const camera_fish_presets_record r = sample_fish_presets();
-         return get_camera_fish_presets_json(&r, dst, n);
-     }},
-    {"get_camera_fish_view_field_json", "the fisheye's field of view",
-     [](char *dst, int32_t n) {
-         static const camera_fish_view_field_record r{180};
-         return get_camera_fish_view_field_json(&r, dst, n);
-     }},
-    {"get_camera_all_capability_json", "one group of capability flags, selected by its code",
-     [](char *dst, int32_t n) {
-         static const camera_all_capability_record r = sample_all_capability();
-         return get_camera_all_capability_json(&r, dst, n);
-     }},
+    MW_SETTABLE_ENTRY(camera_setting, "image settings, weekly image-mode task lists and day/night schedule",
+                      (kept<camera_setting_record, sample_setting>)),
+    MW_SETTABLE_ENTRY(camera_setting_day_night, "day and night exposure profiles",
+                      (kept<camera_setting_day_night_record, sample_camera_setting_day_night>)),
+    MW_SETTABLE_ENTRY(camera_day_night_schedule, "the five day/night schedule texts",
+                      (kept<camera_day_night_schedule_record, sample_camera_day_night_schedule>)),
+    MW_SETTABLE_ENTRY(camera_sensor_image, "traffic flash settings and per-sensor exposure by image mode",
+                      (kept<camera_sensor_image_record, sample_sensor_image>)),
+    MW_SETTABLE_ENTRY(camera_ptz, "PTZ speed seen from the image page",
+                      (kept<camera_ptz_record, sample_camera_ptz>)),
+    MW_SETTABLE_ENTRY(camera_mask, "privacy masks of both sensors",
+                      (kept<camera_mask_record, sample_mask>)),
+    MW_SETTABLE_ENTRY(camera_snapshot_settings, "timed snapshots: storage, uploads, notifications, schedule",
+                      (kept<camera_snapshot_settings_record, sample_snapshot>)),
+    MW_SETTABLE_ENTRY(camera_manual_white_led_settings, "white-light flash set by hand",
+                      (kept<camera_manual_white_led_settings_record, sample_camera_manual_white_led_settings>)),
+    MW_SETTABLE_ENTRY(camera_white_led_status, "white light on or off",
+                      (kept<camera_white_led_status_record, sample_camera_white_led_status>)),
+    MW_SETTABLE_ENTRY(camera_crop_roi_enable, "crop regions of interest switched on",
+                      (kept<camera_crop_roi_enable_record, sample_camera_crop_roi_enable>)),
+    MW_SETTABLE_ENTRY(camera_roi_settings, "the five crop regions of interest",
+                      (kept<camera_roi_settings_record, sample_camera_roi_settings>)),
+    MW_SETTABLE_ENTRY(camera_crop_roi_track, "crop-region tracking and the areas' weekly schedules",
+                      (kept<camera_crop_roi_track_record, sample_crop_roi_track>)),
+    MW_SETTABLE_ENTRY(camera_white_led_parameter, "white light on alarm, group number, manual mode",
+                      (kept<camera_white_led_parameter_record, sample_camera_white_led_parameter>)),
+    MW_SETTABLE_ENTRY(camera_roi_info, "region-of-interest texts per stream",
+                      (kept<camera_roi_info_record, sample_roi_info>)),
+    MW_SETTABLE_ENTRY(camera_lens, "iris type and mode, zoom position",
+                      (kept<camera_lens_record, sample_camera_lens>)),
+    MW_SETTABLE_ENTRY(camera_while_led, "white-light control: mode, sensitivity, timed window, brightness",
+                      (kept<camera_while_led_record, sample_camera_while_led>)),
+    MW_SETTABLE_ENTRY(camera_ir_value, "IR light sensor reading and illuminator strengths",
+                      (kept<camera_ir_value_record, sample_camera_ir_value>)),
+    MW_READ_ONLY_ENTRY(camera_model_general, "what the camera model supports", "what the model offers",
+                       (kept<camera_model_general_record, sample_camera_model_general>)),
+    MW_READ_ONLY_ENTRY(camera_fish_presets, "the fisheye views' presets, one key per preset id", "presets are stored by the PTZ pages",
+                       (kept<camera_fish_presets_record, sample_fish_presets>)),
+    MW_SETTABLE_ENTRY(camera_fish_view_field, "the fisheye's field of view",
+                      (kept<camera_fish_view_field_record, sample_camera_fish_view_field>)),
+    MW_READ_ONLY_ENTRY(camera_all_capability, "one group of capability flags, selected by its code", "what the camera offers",
+                       (kept<camera_all_capability_record, sample_all_capability>)),
 };
 
 } // namespace

@@ -7,8 +7,7 @@
 
 #include <cstdio>
 #include <cstring>
-
-using mw::add;
+#include <type_traits>
 
 namespace {
 
@@ -38,15 +37,15 @@ TaskText joined_slots(const char (&slots)[10][256])
     return joined;
 }
 
-/* A weekly task list: seven {indexKey: day, "taskday": the day's slots}. */
-void add_task_list(cJSON *root, const char *listKey, const char *indexKey, const char (&days)[7][10][256])
+/* A weekly task list: seven {indexKey: day, "taskday": the day's slots}.
+   The joined text is made from the slots, so it is read-only. */
+template <typename A, typename Days>
+void task_list(A &a, const char *listKey, const char *indexKey, Days &days)
 {
-    cJSON *list = mw::array(root, listKey);
-    for (int32_t d = 0; d < 7; ++d) {
-        cJSON *day = mw::append_object(list);
-        add(day, indexKey, d);
-        mw::add_string(day, "taskday", joined_slots(days[d]).text);
-    }
+    a.list(mw::Name::fixed(listKey), indexKey, [&](auto &l) {
+        for (int32_t d = 0; d < 7; ++d)
+            l.item(d, [&](auto &day) { day.derived("taskday", joined_slots(days[d]).text); });
+    });
 }
 
 /* A shutter or exposure time as the pages show it: two decimals, in a
@@ -62,6 +61,18 @@ int32_t percent(uint8_t level)
     return static_cast<int32_t>(level * 100 / 255.0 + 0.5);
 }
 
+/* The snapshot interval is a 4-byte member of a byte-packed record, which no
+   reference may bind: it is read through a copy and, while a request is
+   applied, written back. */
+template <typename A, typename R>
+void packed_interval(A &a, R &r)
+{
+    uint32_t value = r.intervalValue;
+    a("intervalValue", value);
+    if constexpr (!std::is_const<R>::value)
+        r.intervalValue = value;
+}
+
 /* The image modes of a sensor, in the order of the per-mode arrays. */
 constexpr const char *kImageModeNames[3] = {"normal", "odd", "even"};
 
@@ -69,309 +80,282 @@ constexpr const char *kImageModeNames[3] = {"normal", "odd", "even"};
 
 /* ---- image settings, day/night, sensors ---- */
 
-int32_t get_camera_setting_json(const camera_setting_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "powerlineFreq", in->powerlineFreq);
-        add(root, "brightness", in->brightness);
-        add(root, "colorSaturation", in->colorSaturation);
-        add(root, "sharpness", in->sharpness);
-        add(root, "contrast", in->contrast);
-        add(root, "whiteBalanceMode", in->whiteBalanceMode);
-        add(root, "whiteBalanceRedGain", in->whiteBalanceRedGain);
-        add(root, "whiteBalanceBlueGain", in->whiteBalanceBlueGain);
-        add(root, "doorMode", in->doorMode);
-        add(root, "digitalImageStabilisation", in->digitalImageStabilisation);
-        add(root, "dayToNight", in->dayToNight);
-        add(root, "nightToDay", in->nightToDay);
-        add(root, "dayNightSensitivity", in->dayNightSensitivity);
-        add(root, "d2nSensitivity", in->d2nSensitivity);
-        add(root, "n2dSensitivity", in->n2dSensitivity);
-        add(root, "sensorMode", in->sensorMode);
-        add(root, "distortCorrect", in->distortCorrect);
-        add(root, "fovAdjust", in->fovAdjust);
-        add(root, "irBlanceMode", in->irBlanceMode);
-        add(root, "enblur", in->enblur);
-        add(root, "deblur", in->deblur);
-        add(root, "defogMode", in->defogMode);
-        add(root, "antiFogIntensity", in->antiFogIntensity);
-        add(root, "exposureMode", in->exposureMode);
-        add(root, "exposureTime", in->exposureTime);
-        add(root, "exposureGain", in->exposureGain);
-        add(root, "ledMode", in->ledMode);
-        add(root, "nfLevel", in->nfLevel);
-        add(root, "dnr2Level", in->dnr2Level);
-        add(root, "focusMode", in->focusMode);
-        add(root, "aspectRatio", in->aspectRatio);
-        add(root, "zoomLimit", in->zoomLimit);
-        add(root, "smartIrMode", in->smartIrMode);
-        add(root, "nearViewIrLevel", in->nearViewIrLevel);
-        add(root, "middleViewIrLevel", in->middleViewIrLevel);
-        add(root, "farViewIrLevel", in->farViewIrLevel);
-        add(root, "dnSwitchRefocus", in->dnSwitchRefocus);
-        add(root, "smokedDomeCover", in->smokedDomeCover);
-        add(root, "whiteLedLevel", in->whiteLedLevel);
-        add(root, "mirrorCorridor", in->mirrorCorridor);
-        add(root, "imageRotation", in->imageRotation);
-        add(root, "irCutFilter", in->irCutFilter);
-        add(root, "iricrDayHour", in->iricrDayHour);
-        add(root, "iricrDayMinute", in->iricrDayMinute);
-        add(root, "iricrNightHour", in->iricrNightHour);
-        add(root, "iricrNightMinute", in->iricrNightMinute);
-        add(root, "iricrGpinStatus", in->iricrGpinStatus);
-        add(root, "iricrGpinNumber", in->iricrGpinNumber);
-        add(root, "pirDuration", in->pirDuration);
-        add(root, "pirSensitivity", in->pirSensitivity);
-        add(root, "scheduleMode", in->scheduleMode);
-        add(root, "blcRegion", in->blcRegion);
-        add(root, "blcExclusive", in->blcExclusive);
-        add(root, "blcRegionArea", in->blcRegionArea);
-        add(root, "wdrMode", in->wdrMode);
-        add(root, "wdrStartHour", in->wdrStartHour);
-        add(root, "wdrStartMinute", in->wdrStartMinute);
-        add(root, "wdrStopHour", in->wdrStopHour);
-        add(root, "wdrStopMinute", in->wdrStopMinute);
-        add(root, "wdrLevel", in->wdrLevel);
-        add(root, "wdrAflevel", in->wdrAflevel);
-        add(root, "hlcMode", in->hlcMode);
-        add(root, "hlcLevel", in->hlcLevel);
-        add(root, "dayEnhancementMode", in->dayEnhancementMode);
-        add(root, "nightEnhancementMode", in->nightEnhancementMode);
-        if (in->hasLprNightModeInEffect != 0)
-            add(root, "lprNightModeInEffect", in->lprNightModeInEffect);
-        add(root, "mediaUrl", in->mediaUrl);
-        add(root, "mediaWidth", in->mediaWidth);
-        add(root, "mediaHeight", in->mediaHeight);
-        add(root, "lprNight", in->lprNight);
-        add(root, "inlprNight", in->inlprNight);
-        add(root, "fishDisplayMode", in->fishDisplayMode);
-        add(root, "fishCorrectMode", in->fishCorrectMode);
-        add(root, "dayNightMode", in->dayNightMode);
-        add(root, "irSupplemen", in->irSupplemen);
-        add(root, "irisType", in->irisType);
-        add(root, "irisMode", in->irisMode);
-        add_task_list(root, "whiteBalanceTaskdayList", "whiteBalanceIndex", in->whiteBalanceTaskday);
-        add_task_list(root, "exposureTaskdayList", "exposureIndex", in->exposureTaskday);
-        add_task_list(root, "blcWdrHlcTaskdayList", "blcWdrHlcIndex", in->blcWdrHlcTaskday);
-        mw::add_string(root, "dnScheduleTaskday", joined_slots(in->dnScheduleTaskday).text);
-    });
-}
+MW_SETTABLE_PAGE(camera_setting, [](auto &a, auto &r) {
+    a("powerlineFreq", r.powerlineFreq);
+    a("brightness", r.brightness);
+    a("colorSaturation", r.colorSaturation);
+    a("sharpness", r.sharpness);
+    a("contrast", r.contrast);
+    a("whiteBalanceMode", r.whiteBalanceMode);
+    a("whiteBalanceRedGain", r.whiteBalanceRedGain);
+    a("whiteBalanceBlueGain", r.whiteBalanceBlueGain);
+    a("doorMode", r.doorMode);
+    a("digitalImageStabilisation", r.digitalImageStabilisation);
+    a("dayToNight", r.dayToNight);
+    a("nightToDay", r.nightToDay);
+    a("dayNightSensitivity", r.dayNightSensitivity);
+    a("d2nSensitivity", r.d2nSensitivity);
+    a("n2dSensitivity", r.n2dSensitivity);
+    a("sensorMode", r.sensorMode);
+    a("distortCorrect", r.distortCorrect);
+    a("fovAdjust", r.fovAdjust);
+    a("irBlanceMode", r.irBlanceMode);
+    a("enblur", r.enblur);
+    a("deblur", r.deblur);
+    a("defogMode", r.defogMode);
+    a("antiFogIntensity", r.antiFogIntensity);
+    a("exposureMode", r.exposureMode);
+    a("exposureTime", r.exposureTime);
+    a("exposureGain", r.exposureGain);
+    a("ledMode", r.ledMode);
+    a("nfLevel", r.nfLevel);
+    a("dnr2Level", r.dnr2Level);
+    a("focusMode", r.focusMode);
+    a("aspectRatio", r.aspectRatio);
+    a("zoomLimit", r.zoomLimit);
+    a("smartIrMode", r.smartIrMode);
+    a("nearViewIrLevel", r.nearViewIrLevel);
+    a("middleViewIrLevel", r.middleViewIrLevel);
+    a("farViewIrLevel", r.farViewIrLevel);
+    a("dnSwitchRefocus", r.dnSwitchRefocus);
+    a("smokedDomeCover", r.smokedDomeCover);
+    a("whiteLedLevel", r.whiteLedLevel);
+    a("mirrorCorridor", r.mirrorCorridor);
+    a("imageRotation", r.imageRotation);
+    a("irCutFilter", r.irCutFilter);
+    a("iricrDayHour", r.iricrDayHour);
+    a("iricrDayMinute", r.iricrDayMinute);
+    a("iricrNightHour", r.iricrNightHour);
+    a("iricrNightMinute", r.iricrNightMinute);
+    a("iricrGpinStatus", r.iricrGpinStatus);
+    a("iricrGpinNumber", r.iricrGpinNumber);
+    a("pirDuration", r.pirDuration);
+    a("pirSensitivity", r.pirSensitivity);
+    a("scheduleMode", r.scheduleMode);
+    a("blcRegion", r.blcRegion);
+    a("blcExclusive", r.blcExclusive);
+    a("blcRegionArea", r.blcRegionArea);
+    a("wdrMode", r.wdrMode);
+    a("wdrStartHour", r.wdrStartHour);
+    a("wdrStartMinute", r.wdrStartMinute);
+    a("wdrStopHour", r.wdrStopHour);
+    a("wdrStopMinute", r.wdrStopMinute);
+    a("wdrLevel", r.wdrLevel);
+    a("wdrAflevel", r.wdrAflevel);
+    a("hlcMode", r.hlcMode);
+    a("hlcLevel", r.hlcLevel);
+    a("dayEnhancementMode", r.dayEnhancementMode);
+    a("nightEnhancementMode", r.nightEnhancementMode);
+    a.when(r.hasLprNightModeInEffect != 0, [&](auto &o) { o("lprNightModeInEffect", r.lprNightModeInEffect); });
+    a("mediaUrl", r.mediaUrl);
+    a("mediaWidth", r.mediaWidth);
+    a("mediaHeight", r.mediaHeight);
+    a("lprNight", r.lprNight);
+    a("inlprNight", r.inlprNight);
+    a("fishDisplayMode", r.fishDisplayMode);
+    a("fishCorrectMode", r.fishCorrectMode);
+    a("dayNightMode", r.dayNightMode);
+    a("irSupplemen", r.irSupplemen);
+    a("irisType", r.irisType);
+    a("irisMode", r.irisMode);
+    task_list(a, "whiteBalanceTaskdayList", "whiteBalanceIndex", r.whiteBalanceTaskday);
+    task_list(a, "exposureTaskdayList", "exposureIndex", r.exposureTaskday);
+    task_list(a, "blcWdrHlcTaskdayList", "blcWdrHlcIndex", r.blcWdrHlcTaskday);
+    a.derived("dnScheduleTaskday", joined_slots(r.dnScheduleTaskday).text);
+    
+})
 
-int32_t get_camera_setting_day_night_json(const camera_setting_day_night_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        // The record counts IR-cut intervals from 0, the pages from 1.
-        const camera_day_night_profile &day = in->day;
-        const camera_day_night_profile &night = in->night;
-        add(root, "dayExposureLevel", day.exposureLevel);
-        add(root, "dayMinShutter", day.minShutter);
-        add(root, "dayMaxShutter", day.maxShutter);
-        add(root, "dayLimitGain", day.limitGain);
-        add(root, "dayIrCutInterval", int32_t{day.irCutInterval} + 1);
-        add(root, "dayIrCutStatus", day.irCutStatus);
-        add(root, "dayIrLedStatus", day.irLedStatus);
-        add(root, "dayWhiteLedStatus", day.whiteLedStatus);
-        add(root, "dayColorMode", day.colorMode);
-        add(root, "nightExposureLevel", night.exposureLevel);
-        add(root, "nightMinShutter", night.minShutter);
-        add(root, "nightMaxShutter", night.maxShutter);
-        add(root, "nightLimitGain", night.limitGain);
-        add(root, "nightIrCutInterval", int32_t{night.irCutInterval} + 1);
-        add(root, "nightIrCutStatus", night.irCutStatus);
-        add(root, "nightIrLedStatus", night.irLedStatus);
-        add(root, "nightWhiteLedStatus", night.whiteLedStatus);
-        add(root, "nightColorMode", night.colorMode);
-        add(root, "isSupportWhiteledGroup", in->isSupportWhiteledGroup);
-        add(root, "dayWhiteledGroup", in->dayWhiteledGroup);
-        add(root, "nightWhiteledGroup", in->nightWhiteledGroup);
-    });
-}
+MW_SETTABLE_PAGE(camera_setting_day_night, [](auto &a, auto &r) {
+    // The record counts IR-cut intervals from 0, the pages from 1.
+    auto &day = r.day;
+    auto &night = r.night;
+    a("dayExposureLevel", day.exposureLevel);
+    a("dayMinShutter", day.minShutter);
+    a("dayMaxShutter", day.maxShutter);
+    a("dayLimitGain", day.limitGain);
+    a.derived("dayIrCutInterval", int32_t{day.irCutInterval} + 1);
+    a("dayIrCutStatus", day.irCutStatus);
+    a("dayIrLedStatus", day.irLedStatus);
+    a("dayWhiteLedStatus", day.whiteLedStatus);
+    a("dayColorMode", day.colorMode);
+    a("nightExposureLevel", night.exposureLevel);
+    a("nightMinShutter", night.minShutter);
+    a("nightMaxShutter", night.maxShutter);
+    a("nightLimitGain", night.limitGain);
+    a.derived("nightIrCutInterval", int32_t{night.irCutInterval} + 1);
+    a("nightIrCutStatus", night.irCutStatus);
+    a("nightIrLedStatus", night.irLedStatus);
+    a("nightWhiteLedStatus", night.whiteLedStatus);
+    a("nightColorMode", night.colorMode);
+    a("isSupportWhiteledGroup", r.isSupportWhiteledGroup);
+    a("dayWhiteledGroup", r.dayWhiteledGroup);
+    a("nightWhiteledGroup", r.nightWhiteledGroup);
+    
+})
 
-int32_t get_camera_day_night_schedule_json(const camera_day_night_schedule_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        cJSON *list = mw::array(root, "dayNightSchedule");
-        for (int32_t i = 0; i < 5; ++i) {
-            cJSON *entry = mw::append_object(list);
-            add(entry, "index", i);
-            add(entry, "schedule", in->schedule[i]);
-        }
+MW_SETTABLE_PAGE(camera_day_night_schedule, [](auto &a, auto &r) {
+    a.list("dayNightSchedule", "index", [&](auto &l) {
+        for (int32_t i = 0; i < 5; ++i)
+            l.item(i, [&](auto &entry) { entry("schedule", r.schedule[i]); });
     });
-}
+    
+})
 
-int32_t get_camera_sensor_image_json(const camera_sensor_image_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "powerlineFreq", in->powerlineFreq);
-        add(root, "imageMode", in->imageMode);
-        add(root, "trafficScene", in->trafficScene);
-        add(root, "digitalStabilisation", in->digitalStabilisation);
-        add(root, "flashIntensity", in->flashIntensity);
-        add(root, "parityFlashing", in->parityFlashing);
-        add(root, "flashOffsetFirst", in->flashOffsetFirst);
-        add(root, "flashOffsetSecond", in->flashOffsetSecond);
-        add(root, "flashAeExpTimeFirst", in->flashAeExpTimeFirst);
-        add(root, "flashAeExpTimeSecond", in->flashAeExpTimeSecond);
-        cJSON *list = mw::array(root, "sensorList");
+MW_SETTABLE_PAGE(camera_sensor_image, [](auto &a, auto &r) {
+    a("powerlineFreq", r.powerlineFreq);
+    a("imageMode", r.imageMode);
+    a("trafficScene", r.trafficScene);
+    a("digitalStabilisation", r.digitalStabilisation);
+    a("flashIntensity", r.flashIntensity);
+    a("parityFlashing", r.parityFlashing);
+    a("flashOffsetFirst", r.flashOffsetFirst);
+    a("flashOffsetSecond", r.flashOffsetSecond);
+    a("flashAeExpTimeFirst", r.flashAeExpTimeFirst);
+    a("flashAeExpTimeSecond", r.flashAeExpTimeSecond);
+    a.list("sensorList", "sensorIndex", [&](auto &l) {
         for (int32_t i = 0; i < 2; ++i) {
-            const camera_sensor_image_entry &s = in->sensors[i];
-            cJSON *sensor = mw::append_object(list);
-            add(sensor, "sensorIndex", i);
-            add(sensor, "irisMode", in->irisMode[i]);
-            add(sensor, "daynight", s.daynight);
-            add(sensor, "strobelightDay", s.strobelightDay[0]);
-            add(sensor, "strobelightNight", s.strobelightNight[0]);
-            for (int32_t m = 0; m < 3; ++m) {
-                cJSON *mode = mw::object(sensor, kImageModeNames[m]);
-                mw::add_string(mode, "maxshutterDay", two_decimals(s.maxshutterDay[m]));
-                mw::add_string(mode, "maxshutterNight", two_decimals(s.maxshutterNight[m]));
-                add(mode, "limitGainlevelDay", s.limitGainlevelDay[m]);
-                add(mode, "limitGainlevelNight", s.limitGainlevelNight[m]);
-                add(mode, "targetBrightnessDay", s.targetBrightnessDay[m]);
-                add(mode, "targetBrightnessNight", s.targetBrightnessNight[m]);
-                mw::add_string(mode, "manualExposetimeDay", two_decimals(s.manualExposetimeDay[m]));
-                mw::add_string(mode, "manualExposetimeNight", two_decimals(s.manualExposetimeNight[m]));
-                add(mode, "manualGainlevelDay", s.manualGainlevelDay[m]);
-                add(mode, "manualGainlevelNight", s.manualGainlevelNight[m]);
-                add(mode, "brightness", percent(s.brightness[m]));
-                add(mode, "contrast", percent(s.contrast[m]));
-                add(mode, "saturation", percent(s.saturation[m]));
-            }
+            auto &s = r.sensors[i];
+            l.item(i, [&](auto &sensor) {
+                sensor("irisMode", r.irisMode[i]);
+                sensor("daynight", s.daynight);
+                sensor("strobelightDay", s.strobelightDay[0]);
+                sensor("strobelightNight", s.strobelightNight[0]);
+                // Shutter times are shown with two decimals and levels as
+                // percentages: both are made from the stored values.
+                for (int32_t m = 0; m < 3; ++m) {
+                    sensor.object(mw::Name::fixed(kImageModeNames[m]), [&](auto &mode) {
+                        mode.derived("maxshutterDay", two_decimals(s.maxshutterDay[m]));
+                        mode.derived("maxshutterNight", two_decimals(s.maxshutterNight[m]));
+                        mode("limitGainlevelDay", s.limitGainlevelDay[m]);
+                        mode("limitGainlevelNight", s.limitGainlevelNight[m]);
+                        mode("targetBrightnessDay", s.targetBrightnessDay[m]);
+                        mode("targetBrightnessNight", s.targetBrightnessNight[m]);
+                        mode.derived("manualExposetimeDay", two_decimals(s.manualExposetimeDay[m]));
+                        mode.derived("manualExposetimeNight", two_decimals(s.manualExposetimeNight[m]));
+                        mode("manualGainlevelDay", s.manualGainlevelDay[m]);
+                        mode("manualGainlevelNight", s.manualGainlevelNight[m]);
+                        mode.derived("brightness", percent(s.brightness[m]));
+                        mode.derived("contrast", percent(s.contrast[m]));
+                        mode.derived("saturation", percent(s.saturation[m]));
+                    });
+                }
+            });
         }
     });
-}
+    
+})
 
 /* ---- masks, regions of interest, snapshots, lights, lens ---- */
 
-int32_t get_camera_ptz_json(const camera_ptz_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) { add(root, "ptzSpeed", in->ptzSpeed); });
-}
+MW_SETTABLE_PAGE(camera_ptz, [](auto &a, auto &r) {
+    a("ptzSpeed", r.ptzSpeed);
+})
 
-int32_t get_camera_mask_json(const camera_mask_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "calibrationEnable", in->calibrationEnable);
-        add(root, "maskNum", in->maskNum);
-        add(root, "maskMosaicNum", in->maskMosaicNum);
-        add(root, "maskMaxRatio", in->maskMaxRatio);
-        add(root, "maskColorList", in->maskColorList);
-        add(root, "maskDifferentColor", in->maskDifferentColor);
-        // Both sensors list the same number of masks. The producer keeps the
-        // count within the 24 slots; should it not, the list stops at the
-        // last slot rather than read past the record.
-        const int32_t slots = static_cast<int32_t>(sizeof in->masks[0] / sizeof in->masks[0][0]);
-        const int32_t count = in->maskCount < slots ? in->maskCount : slots;
-        cJSON *sensors = mw::array(root, "sensorList");
+MW_SETTABLE_PAGE(camera_mask, [](auto &a, auto &r) {
+    a("calibrationEnable", r.calibrationEnable);
+    a("maskNum", r.maskNum);
+    a("maskMosaicNum", r.maskMosaicNum);
+    a("maskMaxRatio", r.maskMaxRatio);
+    a("maskColorList", r.maskColorList);
+    a("maskDifferentColor", r.maskDifferentColor);
+    // Both sensors list the same number of masks; the list stops at the 24
+    // slots whatever the count says.
+    const int32_t slots = static_cast<int32_t>(sizeof r.masks[0] / sizeof r.masks[0][0]);
+    const int32_t count = r.maskCount < slots ? r.maskCount : slots;
+    a.list("sensorList", "sensorIndex", [&](auto &sensors) {
         for (int32_t s = 0; s < 2; ++s) {
-            cJSON *sensor = mw::append_object(sensors);
-            add(sensor, "sensorIndex", s);
-            add(sensor, "maskEnable", in->maskEnable[s]);
-            cJSON *masks = mw::array(sensor, "maskList");
-            for (int32_t m = 0; m < count; ++m) {
-                const camera_mask_entry &e = in->masks[s][m];
-                cJSON *mask = mw::append_object(masks);
-                add(mask, "index", m);
-                add(mask, "maskX", e.maskX);
-                add(mask, "maskY", e.maskY);
-                add(mask, "maskWidth", e.maskWidth);
-                add(mask, "maskHeight", e.maskHeight);
-                add(mask, "maskType", e.maskType);
-                add(mask, "maskShow", e.maskShow);
-                add(mask, "maskRatio", e.maskRatio);
-                add(mask, "isexist", e.isexist);
-                add(mask, "maskName", e.maskName);
-            }
+            sensors.item(s, [&](auto &sensor) {
+                sensor("maskEnable", r.maskEnable[s]);
+                sensor.list("maskList", "index", [&](auto &masks) {
+                    for (int32_t m = 0; m < count; ++m) {
+                        auto &e = r.masks[s][m];
+                        masks.item(m, [&](auto &mask) {
+                            mask("maskX", e.maskX);
+                            mask("maskY", e.maskY);
+                            mask("maskWidth", e.maskWidth);
+                            mask("maskHeight", e.maskHeight);
+                            mask("maskType", e.maskType);
+                            mask("maskShow", e.maskShow);
+                            mask("maskRatio", e.maskRatio);
+                            mask("isexist", e.isexist);
+                            mask("maskName", e.maskName);
+                        });
+                    }
+                });
+            });
         }
     });
-}
+    
+})
 
-int32_t get_camera_snapshot_settings_json(const camera_snapshot_settings_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "timingSnapshotEnable", in->timingSnapshotEnable);
-        add(root, "intervalValue", in->intervalValue);
-        add(root, "intervalUnit", in->intervalUnit);
-        add(root, "saveIntoStorage", in->saveIntoStorage);
-        add(root, "storageFilenameType", in->storageFilenameType);
-        add(root, "storageBaseFilename", in->storageBaseFilename);
-        add(root, "uploadViaFtp", in->uploadViaFtp);
-        add(root, "uploadViaSmtp", in->uploadViaSmtp);
-        add(root, "uploadViaHttp", in->uploadViaHttp); // last, though stored first
-        cJSON *notify = mw::array(root, "notifyList");
+MW_SETTABLE_PAGE(camera_snapshot_settings, [](auto &a, auto &r) {
+    a("timingSnapshotEnable", r.timingSnapshotEnable);
+    packed_interval(a, r);
+    a("intervalUnit", r.intervalUnit);
+    a("saveIntoStorage", r.saveIntoStorage);
+    a("storageFilenameType", r.storageFilenameType);
+    a("storageBaseFilename", r.storageBaseFilename);
+    a("uploadViaFtp", r.uploadViaFtp);
+    a("uploadViaSmtp", r.uploadViaSmtp);
+    a("uploadViaHttp", r.uploadViaHttp); // last, though stored first
+    a.list("notifyList", "index", [&](auto &l) {
         for (int32_t t = 0; t < 3; ++t) {
-            const camera_snapshot_notify_entry &target = in->targets[t];
-            cJSON *entry = mw::append_object(notify);
-            add(entry, "index", t);
-            add(entry, "enable", target.enable);
-            add(entry, "url", target.url);
-            add(entry, "user", target.user);
-            add(entry, "password", target.password);
-        }
-        mw::add_schedule_list(root, in->schedule);
-    });
-}
-
-int32_t get_camera_manual_white_led_settings_json(const camera_manual_white_led_settings_record *in, char *dst,
-                                                  int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "effectiveGroup", in->effectiveGroup);
-        add(root, "flashMode", in->flashMode);
-        add(root, "flashTime", in->flashTime);
-    });
-}
-
-int32_t get_camera_white_led_status_json(const camera_white_led_status_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) { add(root, "whiteLedStatus", in->whiteLedStatus); });
-}
-
-int32_t get_camera_crop_roi_enable_json(const camera_crop_roi_enable_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) { add(root, "cropRoiEnable", in->cropRoiEnable); });
-}
-
-int32_t get_camera_roi_settings_json(const camera_roi_settings_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        // Slot 0 is the full picture; the regions are 1..5 and named so.
-        for (int32_t i = 1; i <= 5; ++i) {
-            const camera_crop_roi_entry &r = in->regions[i];
-            add(root, mw::Key<32>("cropRoiExist_%d", i), r.exist);
-            add(root, mw::Key<32>("cropRoiLeft_%d", i), r.left);
-            add(root, mw::Key<32>("cropRoiTop_%d", i), r.top);
-            add(root, mw::Key<32>("cropRoiType_%d", i), r.type);
+            auto &target = r.targets[t];
+            l.item(t, [&](auto &entry) {
+                entry("enable", target.enable);
+                entry("url", target.url);
+                entry("user", target.user);
+                entry("password", target.password);
+            });
         }
     });
-}
+    mw::schedule_list(a, r.schedule);
+    
+})
 
-int32_t get_camera_crop_roi_track_json(const camera_crop_roi_track_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        for (int32_t i = 1; i <= 5; ++i) {
-            add(root, mw::Key<32>("enable_%d", i), in->enable[i]);
-            add(root, mw::Key<32>("zoom_%d", i), in->zoom[i]);
-        }
-        // Areas are numbered from 1 in the keys, their days from 0.
-        for (int32_t a = 0; a < 4; ++a)
-            for (int32_t k = 0; k < 7; ++k)
-                add(root, mw::Key<32>("area_%d_CommSche_%d", a + 1, k), in->areaSchedule[a][k]);
-    });
-}
+MW_SETTABLE_PAGE(camera_manual_white_led_settings, [](auto &a, auto &r) {
+    a("effectiveGroup", r.effectiveGroup);
+    a("flashMode", r.flashMode);
+    a("flashTime", r.flashTime);
+})
 
-int32_t get_camera_white_led_parameter_json(const camera_white_led_parameter_record *in, char *dst,
-                                            int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "alarm", in->alarm);
-        add(root, "number", in->number);
-        add(root, "manual", in->manual);
-    });
-}
+MW_SETTABLE_PAGE(camera_white_led_status, [](auto &a, auto &r) {
+    a("whiteLedStatus", r.whiteLedStatus);
+})
 
-int32_t get_camera_roi_info_json(const camera_roi_info_record *in, char *dst, int32_t dstSize)
-{
+MW_SETTABLE_PAGE(camera_crop_roi_enable, [](auto &a, auto &r) {
+    a("cropRoiEnable", r.cropRoiEnable);
+})
+
+MW_SETTABLE_PAGE(camera_roi_settings, [](auto &a, auto &r) {
+    // Slot 0 is the full picture; the regions are 1..5 and named so.
+    for (int32_t i = 1; i <= 5; ++i) {
+        auto &region = r.regions[i];
+        a(mw::Key<32>("cropRoiExist_%d", i), region.exist);
+        a(mw::Key<32>("cropRoiLeft_%d", i), region.left);
+        a(mw::Key<32>("cropRoiTop_%d", i), region.top);
+        a(mw::Key<32>("cropRoiType_%d", i), region.type);
+    }
+})
+
+MW_SETTABLE_PAGE(camera_crop_roi_track, [](auto &a, auto &r) {
+    for (int32_t i = 1; i <= 5; ++i) {
+        a(mw::Key<32>("enable_%d", i), r.enable[i]);
+        a(mw::Key<32>("zoom_%d", i), r.zoom[i]);
+    }
+    // Areas are numbered from 1 in the keys, their days from 0.
+    for (int32_t area = 0; area < 4; ++area)
+        for (int32_t k = 0; k < 7; ++k)
+            a(mw::Key<32>("area_%d_CommSche_%d", area + 1, k), r.areaSchedule[area][k]);
+})
+
+MW_SETTABLE_PAGE(camera_white_led_parameter, [](auto &a, auto &r) {
+    a("alarm", r.alarm);
+    a("number", r.number);
+    a("manual", r.manual);
+})
+
+MW_SETTABLE_PAGE(camera_roi_info, [](auto &a, auto &r) {
     // The region texts of the five streams, one stretch of roiInfo each; the
     // fifth stream has one region fewer.
     struct Stream {
@@ -382,197 +366,172 @@ int32_t get_camera_roi_info_json(const camera_roi_info_record *in, char *dst, in
     static constexpr Stream kStreams[] = {
         {"mainList", 0, 8}, {"subList", 8, 8}, {"thirdList", 16, 8}, {"fourthList", 24, 8}, {"fifthList", 32, 7},
     };
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enable", in->enable);
-        for (const Stream &stream : kStreams) {
-            cJSON *list = mw::array(root, stream.key);
-            for (int32_t i = 0; i < stream.count; ++i) {
-                cJSON *entry = mw::append_object(list);
-                add(entry, "index", i);
-                add(entry, "roiInfo", in->roiInfo[stream.first + i]);
-            }
-        }
-    });
-}
+    a("enable", r.enable);
+    for (const Stream &stream : kStreams) {
+        a.list(mw::Name::fixed(stream.key), "index", [&](auto &l) {
+            for (int32_t i = 0; i < stream.count; ++i)
+                l.item(i, [&](auto &entry) { entry("roiInfo", r.roiInfo[stream.first + i]); });
+        });
+    }
+})
 
-int32_t get_camera_lens_json(const camera_lens_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "lensIrisType", in->lensIrisType);
-        add(root, "lensIrisMode", in->lensIrisMode);
-        add(root, "lensZoomPos", in->lensZoomPos);
-    });
-}
+MW_SETTABLE_PAGE(camera_lens, [](auto &a, auto &r) {
+    a("lensIrisType", r.lensIrisType);
+    a("lensIrisMode", r.lensIrisMode);
+    a("lensZoomPos", r.lensZoomPos);
+})
 
-int32_t get_camera_while_led_json(const camera_while_led_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "lightCtrl", in->lightCtrl);
-        add(root, "sensitivity", in->sensitivity);
-        add(root, "delayTime", in->delayTime);
-        add(root, "startHour", in->startHour);
-        add(root, "startMin", in->startMin);
-        add(root, "stopHour", in->stopHour);
-        add(root, "stopMin", in->stopMin);
-        add(root, "brightnessCtrl", in->brightnessCtrl);
-        add(root, "brightness", in->brightness);
-        add(root, "isWhiteLedExternal", in->isWhiteLedExternal);
-    });
-}
+MW_SETTABLE_PAGE(camera_while_led, [](auto &a, auto &r) {
+    a("lightCtrl", r.lightCtrl);
+    a("sensitivity", r.sensitivity);
+    a("delayTime", r.delayTime);
+    a("startHour", r.startHour);
+    a("startMin", r.startMin);
+    a("stopHour", r.stopHour);
+    a("stopMin", r.stopMin);
+    a("brightnessCtrl", r.brightnessCtrl);
+    a("brightness", r.brightness);
+    a("isWhiteLedExternal", r.isWhiteLedExternal);
+})
 
-int32_t get_camera_ir_value_json(const camera_ir_value_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "irSensorValue", in->irSensorValue);
-        add(root, "inlprNight", in->inlprNight);
-        add(root, "nearIrStrength", in->nearIrStrength);
-        add(root, "midIrStrength", in->midIrStrength);
-        add(root, "farIrStrength", in->farIrStrength);
-        add(root, "smartIrStrengthWhite", in->smartIrStrengthWhite);
-        add(root, "smartIrStrengthSupplement", in->smartIrStrengthSupplement);
-    });
-}
+MW_SETTABLE_PAGE(camera_ir_value, [](auto &a, auto &r) {
+    a("irSensorValue", r.irSensorValue);
+    a("inlprNight", r.inlprNight);
+    a("nearIrStrength", r.nearIrStrength);
+    a("midIrStrength", r.midIrStrength);
+    a("farIrStrength", r.farIrStrength);
+    a("smartIrStrengthWhite", r.smartIrStrengthWhite);
+    a("smartIrStrengthSupplement", r.smartIrStrengthSupplement);
+})
 
 /* ---- model flags, capability groups, fisheye presets ---- */
 
-int32_t get_camera_model_general_json(const camera_model_general_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "ioSupport", in->ioSupport);
-        add(root, "audioSupport", in->audioSupport);
-        add(root, "fisheyeSupport", in->fisheyeSupport);
-        add(root, "vcaSupport", in->vcaSupport);
-        add(root, "audioAlarmSupport", in->audioAlarmSupport);
-        add(root, "ledSupport", in->ledSupport);
-        add(root, "ledGroupSupport", in->ledGroupSupport);
-        add(root, "ptzSupport", in->ptzSupport);
-        add(root, "ptzMaxZoomTimes", in->ptzMaxZoomTimes);
-        add(root, "realPtzSupport", in->realPtzSupport);
-        if (in->vcaSupport != 0)
-            add(root, "vcaType", in->vcaType);
-        add(root, "lprSupport", in->lprSupport);
-        if (in->lprSupport != 0)
-            add(root, "lprVersion", in->lprVersion);
-        add(root, "faceSupport", in->faceSupport); // before iotSupport, though stored after it
-        add(root, "iotSupport", in->iotSupport);
-        add(root, "isSpeedDm", in->isSpeedDm);
-        add(root, "lessAlarmInterface", in->lessAlarmInterface);
-        add(root, "lessDeviceInterface", in->lessDeviceInterface);
-    });
-}
+MW_READ_ONLY_PAGE(camera_model_general, [](auto &a, auto &r) {
+    a("ioSupport", r.ioSupport);
+    a("audioSupport", r.audioSupport);
+    a("fisheyeSupport", r.fisheyeSupport);
+    a("vcaSupport", r.vcaSupport);
+    a("audioAlarmSupport", r.audioAlarmSupport);
+    a("ledSupport", r.ledSupport);
+    a("ledGroupSupport", r.ledGroupSupport);
+    a("ptzSupport", r.ptzSupport);
+    a("ptzMaxZoomTimes", r.ptzMaxZoomTimes);
+    a("realPtzSupport", r.realPtzSupport);
+    a.when(r.vcaSupport != 0, [&](auto &o) { o("vcaType", r.vcaType); });
+    a("lprSupport", r.lprSupport);
+    a.when(r.lprSupport != 0, [&](auto &o) { o("lprVersion", r.lprVersion); });
+    a("faceSupport", r.faceSupport); // before iotSupport, though stored after it
+    a("iotSupport", r.iotSupport);
+    a("isSpeedDm", r.isSpeedDm);
+    a("lessAlarmInterface", r.lessAlarmInterface);
+    a("lessDeviceInterface", r.lessDeviceInterface);
+})
 
-int32_t get_camera_fish_presets_json(const camera_fish_presets_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        // No array here: each used slot becomes a root key named after its
-        // id, in slot order.
-        for (const ptz_preset_entry &p : in->entries) {
-            if (p.id == 0)
-                continue;
-            const mw::Text<128> value("%d:%lf:%lf:%.*s", p.leadingNumber, p.firstCoordinate, p.secondCoordinate,
-                                     static_cast<int>(sizeof p.name), p.name);
-            mw::add_string(root, mw::Key<32>("preset_%d", p.id), value);
-        }
-    });
-}
+MW_READ_ONLY_PAGE(camera_fish_presets, [](auto &a, auto &r) {
+    // No array here: each used slot becomes a root key named after its
+    // id, in slot order.
+    for (const ptz_preset_entry &p : r.entries) {
+        if (p.id == 0)
+            continue;
+        const mw::Text<128> value("%d:%lf:%lf:%.*s", p.leadingNumber, p.firstCoordinate, p.secondCoordinate,
+                                 static_cast<int>(sizeof p.name), p.name);
+        a.derived(mw::Key<32>("preset_%d", p.id), value);
+    }
+})
 
-int32_t get_camera_fish_view_field_json(const camera_fish_view_field_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) { add(root, "fisheyeViewField", in->fisheyeViewField); });
-}
+MW_SETTABLE_PAGE(camera_fish_view_field, [](auto &a, auto &r) {
+    a("fisheyeViewField", r.fisheyeViewField);
+})
 
-int32_t get_camera_all_capability_json(const camera_all_capability_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        switch (in->group) {
-        case 100: // PTZ control
-            add(root, "ptzControl", in->ptzControl);
-            add(root, "whiteLed", in->whiteLed);
-            add(root, "manualTrack", in->manualTrack);
-            add(root, "liveAutoTracking", in->liveAutoTracking);
-            add(root, "dehumidifying", in->dehumidifying);
-            add(root, "3dPosition", in->threeDPosition);
-            add(root, "oneTouch", in->oneTouch);
-            add(root, "autohome", in->autohome);
-            add(root, "preset", in->preset);
-            add(root, "patrol", in->patrol);
-            add(root, "pattern", in->pattern);
-            break;
-        case 101: // zoom, focus and iris
-            add(root, "zcontrol", in->zcontrol);
-            add(root, "zslider", in->zslider);
-            add(root, "focus", in->focus);
-            add(root, "lensInitialization", in->lensInitialization);
-            add(root, "auxiliaryFocus", in->auxiliaryFocus);
-            add(root, "autoirisAlwaysOpen", in->autoirisAlwaysOpen);
-            add(root, "autoirisClickable", in->autoirisClickable);
-            break;
-        case 102: // PTZ basics; the PTZ settings page reads autohome and auto tracking here too
-            add(root, "basic", in->basic);
-            add(root, "manualSpeed", in->manualSpeed);
-            add(root, "patrolRecorvery", in->patrolRecorvery);
-            add(root, "miniFocusDistance", in->miniFocusDistance);
-            add(root, "autohome", in->autohome);
-            add(root, "ptzLimits", in->ptzLimits);
-            add(root, "topAndBottomLimit", in->topAndBottomLimit);
-            add(root, "initialPosition", in->initialPosition);
-            add(root, "privacyMask", in->privacyMask);
-            add(root, "scheduledTask", in->scheduledTask);
-            add(root, "tiltScan", in->tiltScan);
-            add(root, "panoramaScan", in->panoramaScan);
-            add(root, "autoTracking", in->liveAutoTracking);
-            add(root, "configClear", in->configClear);
-            add(root, "clearInitialPosition", in->clearInitialPosition);
-            add(root, "rs485", in->rs485);
-            add(root, "status", in->status);
-            add(root, "heater", in->heater);
-            break;
-        case 103: // plate recognition
-            add(root, "lpr", in->lpr);
-            add(root, "confidenceLevel", in->confidenceLevel);
-            add(root, "dayNightDetection", in->dayNightDetection);
-            add(root, "speedDetection", in->speedDetection);
-            add(root, "regionFeatures", in->regionFeatures);
-            break;
-        case 104: // audio, smart IR and lens
-            add(root, "audio", in->audio);
-            add(root, "smartIrMode", in->smartIrMode);
-            add(root, "smartIrModeAuto", in->smartIrModeAuto);
-            add(root, "smartIrModeViewLevel", in->smartIrModeViewLevel);
-            add(root, "smartIrModeMiddleLevel", in->smartIrModeMiddleLevel);
-            add(root, "smartIrModeWhiteLevel", in->smartIrModeWhiteLevel);
-            add(root, "localDisplayVideo", in->localDisplayVideo);
-            add(root, "smokedDomecover", in->smokedDomecover);
-            add(root, "keepAspectRatio", in->keepAspectRatio);
-            add(root, "zoomLimit", in->zoomLimit);
-            add(root, "lensDistortCorrect", in->lensDistortCorrect);
-            break;
-        case 105: // stabilisation and focus
-            add(root, "digitalImageStabilisation", in->digitalImageStabilisation);
-            add(root, "focusMode", in->focusMode);
-            add(root, "lensType", in->lensType);
-            add(root, "reduceVideoStuttering", in->reduceVideoStuttering);
-            break;
-        case 106: // day/night
-            add(root, "dayNightWhiteLed", in->whiteLed);
-            add(root, "dayNightSliderRange_1_10", in->dayNightSliderRange_1_10);
-            add(root, "dayNightSliderRange_1_100", in->dayNightSliderRange_1_100);
-            add(root, "dayNightSliderDefult_20_60", in->dayNightSliderDefult_20_60);
-            break;
-        case 107: // image mask
-            add(root, "imageMask", in->imageMask);
-            break;
-        case 108: // events; both alarm keys report the alarm output's flag
-            add(root, "audioEvent", in->audioEvent);
-            add(root, "alarmInputEvent", in->alarmOutputEvent);
-            add(root, "alarmOutputEvent", in->alarmOutputEvent);
-            add(root, "vca", in->vca);
-            break;
-        case 109: // stream preset
-            add(root, "streamPreset", in->streamPreset);
-            break;
-        default: // no such group: nothing to report
-            break;
-        }
-    });
-}
+MW_READ_ONLY_PAGE(camera_all_capability, [](auto &a, auto &r) {
+    switch (r.group) {
+    case 100: // PTZ control
+        a("ptzControl", r.ptzControl);
+        a("whiteLed", r.whiteLed);
+        a("manualTrack", r.manualTrack);
+        a("liveAutoTracking", r.liveAutoTracking);
+        a("dehumidifying", r.dehumidifying);
+        a("3dPosition", r.threeDPosition);
+        a("oneTouch", r.oneTouch);
+        a("autohome", r.autohome);
+        a("preset", r.preset);
+        a("patrol", r.patrol);
+        a("pattern", r.pattern);
+        break;
+    case 101: // zoom, focus and iris
+        a("zcontrol", r.zcontrol);
+        a("zslider", r.zslider);
+        a("focus", r.focus);
+        a("lensInitialization", r.lensInitialization);
+        a("auxiliaryFocus", r.auxiliaryFocus);
+        a("autoirisAlwaysOpen", r.autoirisAlwaysOpen);
+        a("autoirisClickable", r.autoirisClickable);
+        break;
+    case 102: // PTZ basics; the PTZ settings page reads autohome and auto tracking here too
+        a("basic", r.basic);
+        a("manualSpeed", r.manualSpeed);
+        a("patrolRecorvery", r.patrolRecorvery);
+        a("miniFocusDistance", r.miniFocusDistance);
+        a("autohome", r.autohome);
+        a("ptzLimits", r.ptzLimits);
+        a("topAndBottomLimit", r.topAndBottomLimit);
+        a("initialPosition", r.initialPosition);
+        a("privacyMask", r.privacyMask);
+        a("scheduledTask", r.scheduledTask);
+        a("tiltScan", r.tiltScan);
+        a("panoramaScan", r.panoramaScan);
+        a("autoTracking", r.liveAutoTracking);
+        a("configClear", r.configClear);
+        a("clearInitialPosition", r.clearInitialPosition);
+        a("rs485", r.rs485);
+        a("status", r.status);
+        a("heater", r.heater);
+        break;
+    case 103: // plate recognition
+        a("lpr", r.lpr);
+        a("confidenceLevel", r.confidenceLevel);
+        a("dayNightDetection", r.dayNightDetection);
+        a("speedDetection", r.speedDetection);
+        a("regionFeatures", r.regionFeatures);
+        break;
+    case 104: // audio, smart IR and lens
+        a("audio", r.audio);
+        a("smartIrMode", r.smartIrMode);
+        a("smartIrModeAuto", r.smartIrModeAuto);
+        a("smartIrModeViewLevel", r.smartIrModeViewLevel);
+        a("smartIrModeMiddleLevel", r.smartIrModeMiddleLevel);
+        a("smartIrModeWhiteLevel", r.smartIrModeWhiteLevel);
+        a("localDisplayVideo", r.localDisplayVideo);
+        a("smokedDomecover", r.smokedDomecover);
+        a("keepAspectRatio", r.keepAspectRatio);
+        a("zoomLimit", r.zoomLimit);
+        a("lensDistortCorrect", r.lensDistortCorrect);
+        break;
+    case 105: // stabilisation and focus
+        a("digitalImageStabilisation", r.digitalImageStabilisation);
+        a("focusMode", r.focusMode);
+        a("lensType", r.lensType);
+        a("reduceVideoStuttering", r.reduceVideoStuttering);
+        break;
+    case 106: // day/night
+        a("dayNightWhiteLed", r.whiteLed);
+        a("dayNightSliderRange_1_10", r.dayNightSliderRange_1_10);
+        a("dayNightSliderRange_1_100", r.dayNightSliderRange_1_100);
+        a("dayNightSliderDefult_20_60", r.dayNightSliderDefult_20_60);
+        break;
+    case 107: // image mask
+        a("imageMask", r.imageMask);
+        break;
+    case 108: // events; both alarm keys report the alarm output's flag
+        a("audioEvent", r.audioEvent);
+        a("alarmInputEvent", r.alarmOutputEvent);
+        a("alarmOutputEvent", r.alarmOutputEvent);
+        a("vca", r.vca);
+        break;
+    case 109: // stream preset
+        a("streamPreset", r.streamPreset);
+        break;
+    default: // no such group: nothing to report
+        break;
+    }
+})

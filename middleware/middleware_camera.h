@@ -189,19 +189,33 @@ typedef struct camera_sensor_image_record {
    hasLprNightModeInEffect is non-zero. A slot is read no further than its
    256 bytes, even when it lacks its NUL. */
 MW_API int32_t get_camera_setting_json(const camera_setting_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_camera_setting_json(const camera_setting_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_setting_json(camera_setting_record *record, const char *body, int32_t bodySize, char *dst,
+                                       int32_t dstSize);
 /* The day and night profiles; the IR-cut intervals are reported one-based
    (stored value + 1, so 255 reports 256). */
 MW_API int32_t get_camera_setting_day_night_json(const camera_setting_day_night_record *in, char *dst,
                                                  int32_t dstSize);
+MW_API int32_t schema_camera_setting_day_night_json(const camera_setting_day_night_record *in, char *dst,
+                                                    int32_t dstSize);
+MW_API int32_t set_camera_setting_day_night_json(camera_setting_day_night_record *record, const char *body,
+                                                 int32_t bodySize, char *dst, int32_t dstSize);
 /* "dayNightSchedule": five {"index", "schedule"}, empty texts included. */
 MW_API int32_t get_camera_day_night_schedule_json(const camera_day_night_schedule_record *in, char *dst,
                                                   int32_t dstSize);
+MW_API int32_t schema_camera_day_night_schedule_json(const camera_day_night_schedule_record *in, char *dst,
+                                                     int32_t dstSize);
+MW_API int32_t set_camera_day_night_schedule_json(camera_day_night_schedule_record *record, const char *body,
+                                                  int32_t bodySize, char *dst, int32_t dstSize);
 /* Flash settings and "sensorList": two sensors, each with the mode objects
    "normal", "odd" and "even". Shutter and exposure times are texts with two
    decimals; brightness, contrast and saturation are percentages rounded half
    up. */
 MW_API int32_t get_camera_sensor_image_json(const camera_sensor_image_record *in, char *dst,
                                             int32_t dstSize);
+MW_API int32_t schema_camera_sensor_image_json(const camera_sensor_image_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_sensor_image_json(camera_sensor_image_record *record, const char *body, int32_t bodySize,
+                                            char *dst, int32_t dstSize);
 
 /* ---- end image settings, day/night, sensors ---- */
 
@@ -369,43 +383,87 @@ typedef struct camera_ir_value_record {
 
 /* {"ptzSpeed"} */
 MW_API int32_t get_camera_ptz_json(const camera_ptz_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_camera_ptz_json(const camera_ptz_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_ptz_json(camera_ptz_record *record, const char *body, int32_t bodySize, char *dst,
+                                   int32_t dstSize);
 /* The mask settings and "sensorList": two sensors, each with its first
    maskCount masks as "maskList" (index from 0). A maskCount below 1 lists no
    mask; one above 24 would run past the slots and is listed as 24. */
 MW_API int32_t get_camera_mask_json(const camera_mask_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_camera_mask_json(const camera_mask_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_mask_json(camera_mask_record *record, const char *body, int32_t bodySize, char *dst,
+                                    int32_t dstSize);
 /* Snapshot timing and storage, "uploadViaFtp", "uploadViaSmtp",
    "uploadViaHttp" in that order, "notifyList" (3) and "scheduleList" (7). */
 MW_API int32_t get_camera_snapshot_settings_json(const camera_snapshot_settings_record *in, char *dst,
                                                  int32_t dstSize);
+MW_API int32_t schema_camera_snapshot_settings_json(const camera_snapshot_settings_record *in, char *dst,
+                                                    int32_t dstSize);
+MW_API int32_t set_camera_snapshot_settings_json(camera_snapshot_settings_record *record, const char *body,
+                                                 int32_t bodySize, char *dst, int32_t dstSize);
 /* "effectiveGroup", "flashMode", "flashTime". */
 MW_API int32_t get_camera_manual_white_led_settings_json(const camera_manual_white_led_settings_record *in,
                                                          char *dst, int32_t dstSize);
+MW_API int32_t schema_camera_manual_white_led_settings_json(const camera_manual_white_led_settings_record *in,
+                                                            char *dst, int32_t dstSize);
+MW_API int32_t set_camera_manual_white_led_settings_json(camera_manual_white_led_settings_record *record,
+                                                         const char *body, int32_t bodySize, char *dst,
+                                                         int32_t dstSize);
 /* {"whiteLedStatus"} */
 MW_API int32_t get_camera_white_led_status_json(const camera_white_led_status_record *in, char *dst,
                                                 int32_t dstSize);
+MW_API int32_t schema_camera_white_led_status_json(const camera_white_led_status_record *in, char *dst,
+                                                   int32_t dstSize);
+MW_API int32_t set_camera_white_led_status_json(camera_white_led_status_record *record, const char *body,
+                                                int32_t bodySize, char *dst, int32_t dstSize);
 /* {"cropRoiEnable"} */
 MW_API int32_t get_camera_crop_roi_enable_json(const camera_crop_roi_enable_record *in, char *dst,
                                                int32_t dstSize);
+MW_API int32_t schema_camera_crop_roi_enable_json(const camera_crop_roi_enable_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_crop_roi_enable_json(camera_crop_roi_enable_record *record, const char *body,
+                                               int32_t bodySize, char *dst, int32_t dstSize);
 /* "cropRoiExist_%d", "cropRoiLeft_%d", "cropRoiTop_%d", "cropRoiType_%d" for
    regions 1..5, named by the region's slot number. */
 MW_API int32_t get_camera_roi_settings_json(const camera_roi_settings_record *in, char *dst,
                                             int32_t dstSize);
+MW_API int32_t schema_camera_roi_settings_json(const camera_roi_settings_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_roi_settings_json(camera_roi_settings_record *record, const char *body, int32_t bodySize,
+                                            char *dst, int32_t dstSize);
 /* "enable_%d" and "zoom_%d" for regions 1..5, then "area_%d_CommSche_%d" for
    areas 1..4 (numbered from 1) and days 0..6 (numbered from 0). */
 MW_API int32_t get_camera_crop_roi_track_json(const camera_crop_roi_track_record *in, char *dst,
                                               int32_t dstSize);
+MW_API int32_t schema_camera_crop_roi_track_json(const camera_crop_roi_track_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_crop_roi_track_json(camera_crop_roi_track_record *record, const char *body, int32_t bodySize,
+                                              char *dst, int32_t dstSize);
 /* "alarm", "number", "manual". */
 MW_API int32_t get_camera_white_led_parameter_json(const camera_white_led_parameter_record *in, char *dst,
                                                    int32_t dstSize);
+MW_API int32_t schema_camera_white_led_parameter_json(const camera_white_led_parameter_record *in, char *dst,
+                                                      int32_t dstSize);
+MW_API int32_t set_camera_white_led_parameter_json(camera_white_led_parameter_record *record, const char *body,
+                                                   int32_t bodySize, char *dst, int32_t dstSize);
 /* "enable" and the lists "mainList", "subList", "thirdList", "fourthList"
    (8 texts each) and "fifthList" (7), each indexed from 0 within its list. */
 MW_API int32_t get_camera_roi_info_json(const camera_roi_info_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_camera_roi_info_json(const camera_roi_info_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_roi_info_json(camera_roi_info_record *record, const char *body, int32_t bodySize, char *dst,
+                                        int32_t dstSize);
 /* "lensIrisType", "lensIrisMode", "lensZoomPos". */
 MW_API int32_t get_camera_lens_json(const camera_lens_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_camera_lens_json(const camera_lens_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_lens_json(camera_lens_record *record, const char *body, int32_t bodySize, char *dst,
+                                    int32_t dstSize);
 /* The white-light control settings (the exported name keeps its spelling). */
 MW_API int32_t get_camera_while_led_json(const camera_while_led_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_camera_while_led_json(const camera_while_led_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_while_led_json(camera_while_led_record *record, const char *body, int32_t bodySize, char *dst,
+                                         int32_t dstSize);
 /* The IR sensor value and strengths. */
 MW_API int32_t get_camera_ir_value_json(const camera_ir_value_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_camera_ir_value_json(const camera_ir_value_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_ir_value_json(camera_ir_value_record *record, const char *body, int32_t bodySize, char *dst,
+                                        int32_t dstSize);
 
 /* ---- end masks, regions of interest, snapshots, lights, lens ---- */
 
@@ -520,17 +578,23 @@ typedef struct camera_all_capability_record {
    only when lprSupport is non-zero, "faceSupport" before "iotSupport". */
 MW_API int32_t get_camera_model_general_json(const camera_model_general_record *in, char *dst,
                                              int32_t dstSize);
+MW_API int32_t schema_camera_model_general_json(const camera_model_general_record *in, char *dst, int32_t dstSize);
 /* One root key "preset_<id>" per used slot, in slot order, its value
    "leadingNumber:firstCoordinate:secondCoordinate:name" (the coordinates with
    six decimals) cut at 127 characters. Two slots with one id give two keys of
    that name. A name is read no further than its 68 bytes. */
 MW_API int32_t get_camera_fish_presets_json(const camera_fish_presets_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_camera_fish_presets_json(const camera_fish_presets_record *in, char *dst, int32_t dstSize);
 /* {"fisheyeViewField"} */
 MW_API int32_t get_camera_fish_view_field_json(const camera_fish_view_field_record *in, char *dst,
                                                int32_t dstSize);
+MW_API int32_t schema_camera_fish_view_field_json(const camera_fish_view_field_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_camera_fish_view_field_json(camera_fish_view_field_record *record, const char *body,
+                                               int32_t bodySize, char *dst, int32_t dstSize);
 /* The keys of the group named by `group`; {} for any other code. */
 MW_API int32_t get_camera_all_capability_json(const camera_all_capability_record *in, char *dst,
                                               int32_t dstSize);
+MW_API int32_t schema_camera_all_capability_json(const camera_all_capability_record *in, char *dst, int32_t dstSize);
 
 /* ---- end model flags, capability groups, fisheye presets ---- */
 

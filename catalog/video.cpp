@@ -149,81 +149,88 @@ struct FisheyeSample {
     }
 };
 
+video_fisheye_ptz_osd_record sample_video_fisheye_ptz_osd()
+{
+    return video_fisheye_ptz_osd_record{1, 0, 0, 1};
+}
+
+video_ts_multicast_record sample_video_ts_multicast()
+{
+    video_ts_multicast_record m{};
+    m.enable = 1;
+    put(m.addr, "239.255.42.99");
+    m.port = 5004;
+    return m;
+}
+
+video_fish_dewarping_record sample_video_fish_dewarping()
+{
+    return video_fish_dewarping_record{180, 1};
+}
+
+playvideo_filename_record sample_playvideo_filename()
+{
+    playvideo_filename_record f{};
+    put(f.name[0], "welcome.mp4");
+    put(f.name[1], "opening-hours.mp4");
+    put(f.name[4], "parking-rules.mp4");
+    return f;
+}
+
+// The record points at the encoder's entries, which live as long as the
+// program.
+video_fisheye_video_general_record sample_fisheye()
+{
+    static const FisheyeSample sample;
+    return sample.record;
+}
+
+sensor_config_record sample_sensor_config()
+{
+    return sensor_config_record{{2, 0}};
+}
+
+using SensorConfigPage = RecordPage<sensor_config_record, kept<sensor_config_record, sample_sensor_config>,
+                                    get_sensor_config_json, schema_sensor_config_json, set_sensor_config_json>;
+
+dehumidifying_info_record sample_dehumidifying_info()
+{
+    return dehumidifying_info_record{{45, 70, 5, 0}, 2};
+}
+
+dehumidifying_status_record sample_dehumidifying_status()
+{
+    return dehumidifying_status_record{31.75, 0, 1};
+}
+
 const CatalogEntry entries[] = {
-    {"get_video_general_json", "stream profiles: resolution, codec, rate control and URL per stream",
-     [](char *dst, int32_t n) {
-         static const video_general_record r = sample_general();
-         return get_video_general_json(&r, dst, n);
-     }},
-    {"get_video_advanced_json", "text overlay per stream and zoom-time overlay per sensor",
-     [](char *dst, int32_t n) {
-         static const video_advanced_record r = sample_advanced();
-         return get_video_advanced_json(&r, dst, n);
-     }},
-    {"get_video_framerate_json", "frame rates each codec offers at each resolution, per stream",
-     [](char *dst, int32_t n) {
-         static const video_framerate_record r = sample_framerate();
-         return get_video_framerate_json(&r, dst, n);
-     }},
-    {"get_video_bit_info_json", "bit rates each of the five streams offers",
-     [](char *dst, int32_t n) {
-         static const video_bit_info_record r = sample_bit_info();
-         return get_video_bit_info_json(&r, dst, n);
-     }},
-    {"get_sensor_config_json", "output mode of both sensors",
-     [](char *dst, int32_t n) {
-         static const sensor_config_record r{{2, 0}};
-         return get_sensor_config_json(&r, dst, n);
-     },
-     false},
-    {"get_video_fisheye_ptz_osd_json", "on-screen status of the fisheye PTZ functions",
-     [](char *dst, int32_t n) {
-         static const video_fisheye_ptz_osd_record r{1, 0, 0, 1};
-         return get_video_fisheye_ptz_osd_json(&r, dst, n);
-     }},
-    {"get_video_ts_multicast_json", "transport-stream multicast address and port",
-     [](char *dst, int32_t n) {
-         static const video_ts_multicast_record r = [] {
-             video_ts_multicast_record m{};
-             m.enable = 1;
-             put(m.addr, "239.255.42.99");
-             m.port = 5004;
-             return m;
-         }();
-         return get_video_ts_multicast_json(&r, dst, n);
-     }},
-    {"get_video_fish_dewarping_json", "fisheye dewarping view field and correction model",
-     [](char *dst, int32_t n) {
-         static const video_fish_dewarping_record r{180, 1};
-         return get_video_fish_dewarping_json(&r, dst, n);
-     }},
-    {"get_playvideo_config_json", "video playback mode, share paths and play list",
-     [](char *dst, int32_t n) {
-         static const playvideo_config_record r = sample_playvideo();
-         return get_playvideo_config_json(&r, dst, n);
-     }},
-    {"get_playvideo_filename_json", "file names of the video play list",
-     [](char *dst, int32_t n) {
-         static const playvideo_filename_record r = [] {
-             playvideo_filename_record f{};
-             put(f.name[0], "welcome.mp4");
-             put(f.name[1], "opening-hours.mp4");
-             put(f.name[4], "parking-rules.mp4");
-             return f;
-         }();
-         return get_playvideo_filename_json(&r, dst, n);
-     }},
-    {"get_dehumidifying_info_json", "housing fan mode, temperature and fan state",
-     [](char *dst, int32_t n) {
-         static const dehumidifying_info_record info{{45, 70, 5, 0}, 2};
-         static const dehumidifying_status_record status{31.75, 0, 1};
-         return get_dehumidifying_info_json(&info, &status, dst, n);
-     }},
-    {"get_video_fisheye_video_general_json", "fisheye lens settings and stream profiles per display mode",
-     [](char *dst, int32_t n) {
-         static const FisheyeSample sample;
-         return get_video_fisheye_video_general_json(&sample.record, dst, n);
-     }},
+    MW_SETTABLE_ENTRY(video_general, "stream profiles: resolution, codec, rate control and URL per stream",
+                      (kept<video_general_record, sample_general>)),
+    MW_SETTABLE_ENTRY(video_advanced, "text overlay per stream and zoom-time overlay per sensor",
+                      (kept<video_advanced_record, sample_advanced>)),
+    MW_READ_ONLY_ENTRY(video_framerate, "frame rates each codec offers at each resolution, per stream", "what the encoder offers",
+                       (kept<video_framerate_record, sample_framerate>)),
+    MW_READ_ONLY_ENTRY(video_bit_info, "bit rates each of the five streams offers", "what the encoder offers",
+                       (kept<video_bit_info_record, sample_bit_info>)),
+    // The sensor page prints whatever buffer it is given.
+    CatalogEntry{"get_sensor_config_json", "output mode of both sensors", SensorConfigPage::sample, false,
+                 &SensorConfigPage::ops},
+    MW_SETTABLE_ENTRY(video_fisheye_ptz_osd, "on-screen status of the fisheye PTZ functions",
+                      (kept<video_fisheye_ptz_osd_record, sample_video_fisheye_ptz_osd>)),
+    MW_SETTABLE_ENTRY(video_ts_multicast, "transport-stream multicast address and port",
+                      (kept<video_ts_multicast_record, sample_video_ts_multicast>)),
+    MW_SETTABLE_ENTRY(video_fish_dewarping, "fisheye dewarping view field and correction model",
+                      (kept<video_fish_dewarping_record, sample_video_fish_dewarping>)),
+    MW_SETTABLE_ENTRY(playvideo_config, "video playback mode, share paths and play list",
+                      (kept<playvideo_config_record, sample_playvideo>)),
+    MW_READ_ONLY_ENTRY(playvideo_filename, "file names of the video play list", "the files stored on the camera",
+                       (kept<playvideo_filename_record, sample_playvideo_filename>)),
+    page_entry<PairPage<dehumidifying_info_record, kept<dehumidifying_info_record, sample_dehumidifying_info>,
+                        dehumidifying_status_record, kept<dehumidifying_status_record, sample_dehumidifying_status>,
+                        get_dehumidifying_info_json, schema_dehumidifying_info_json, set_dehumidifying_info_json>>(
+        "get_dehumidifying_info_json", "housing fan mode, temperature and fan state"),
+    MW_SETTABLE_ENTRY(video_fisheye_video_general, "fisheye lens settings and stream profiles per display mode",
+                      (kept<video_fisheye_video_general_record, sample_fisheye>)),
 };
 
 } // namespace

@@ -227,43 +227,76 @@ typedef struct video_fisheye_video_general_record {
    main stream has no "enable". Streams past the sixth are not reported (the
    stream names end there). */
 MW_API int32_t get_video_general_json(const video_general_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_video_general_json(const video_general_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_video_general_json(video_general_record *record, const char *body, int32_t bodySize, char *dst,
+                                      int32_t dstSize);
 /* "streamList": the overlay of each stream under its name, then "sensorList"
    with both sensors. Streams past the sixth are not reported. */
 MW_API int32_t get_video_advanced_json(const video_advanced_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_video_advanced_json(const video_advanced_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_video_advanced_json(video_advanced_record *record, const char *body, int32_t bodySize, char *dst,
+                                       int32_t dstSize);
 /* "streamCount" as stored, then one object per valid stream with "H264",
    "H265" and, where offered, "Mjpeg". Streams past the fifth and
    resolutions past the tenth are not reported (the names and the record end
    there); "streamCount" and "availableSize" still show the stored values. */
 MW_API int32_t get_video_framerate_json(const video_framerate_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_video_framerate_json(const video_framerate_record *in, char *dst, int32_t dstSize);
 /* The five streams, each with its non-zero bit rates in slot order. */
 MW_API int32_t get_video_bit_info_json(const video_bit_info_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_video_bit_info_json(const video_bit_info_record *in, char *dst, int32_t dstSize);
 
 /* "sensorList" with both sensors. This one never tests its buffer: it always
    prints, and a NULL buffer or a size below 1 copies nothing and yields 0. */
 MW_API int32_t get_sensor_config_json(const sensor_config_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_sensor_config_json(const sensor_config_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_sensor_config_json(sensor_config_record *record, const char *body, int32_t bodySize, char *dst,
+                                      int32_t dstSize);
 MW_API int32_t get_video_fisheye_ptz_osd_json(const video_fisheye_ptz_osd_record *in, char *dst,
                                               int32_t dstSize);
+MW_API int32_t schema_video_fisheye_ptz_osd_json(const video_fisheye_ptz_osd_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_video_fisheye_ptz_osd_json(video_fisheye_ptz_osd_record *record, const char *body, int32_t bodySize,
+                                              char *dst, int32_t dstSize);
 MW_API int32_t get_video_ts_multicast_json(const video_ts_multicast_record *in, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_video_ts_multicast_json(const video_ts_multicast_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_video_ts_multicast_json(video_ts_multicast_record *record, const char *body, int32_t bodySize,
+                                           char *dst, int32_t dstSize);
 MW_API int32_t get_video_fish_dewarping_json(const video_fish_dewarping_record *in, char *dst,
                                              int32_t dstSize);
+MW_API int32_t schema_video_fish_dewarping_json(const video_fish_dewarping_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_video_fish_dewarping_json(video_fish_dewarping_record *record, const char *body, int32_t bodySize,
+                                             char *dst, int32_t dstSize);
 /* The play mode and paths, then "videoList" with the used slots, each with
    its slot number as "index". */
 MW_API int32_t get_playvideo_config_json(const playvideo_config_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_playvideo_config_json(const playvideo_config_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_playvideo_config_json(playvideo_config_record *record, const char *body, int32_t bodySize, char *dst,
+                                         int32_t dstSize);
 MW_API int32_t get_playvideo_filename_json(const playvideo_filename_record *in, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_playvideo_filename_json(const playvideo_filename_record *in, char *dst, int32_t dstSize);
 /* The fan mode from the settings, the temperature as text with two decimals
    ("23.50", no unit) and the fan state from the measured state. Neither
    record is tested for NULL; a refused buffer returns before either is read. */
 MW_API int32_t get_dehumidifying_info_json(const dehumidifying_info_record *info,
                                            const dehumidifying_status_record *status, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_dehumidifying_info_json(const dehumidifying_info_record *info,
+                                              const dehumidifying_status_record *status, char *dst,
+                                              int32_t dstSize);
+MW_API int32_t set_dehumidifying_info_json(dehumidifying_info_record *info, dehumidifying_status_record *status,
+                                           const char *body, int32_t bodySize, char *dst, int32_t dstSize);
 
 /* The lens settings, then one object per display mode with its event stream
    (when there is one) and its "streamList" of used slots. Frame rates are
    reported one-based. */
 MW_API int32_t get_video_fisheye_video_general_json(const video_fisheye_video_general_record *in,
                                                     char *dst, int32_t dstSize);
+MW_API int32_t schema_video_fisheye_video_general_json(const video_fisheye_video_general_record *in, char *dst,
+                                                       int32_t dstSize);
+MW_API int32_t set_video_fisheye_video_general_json(video_fisheye_video_general_record *record, const char *body,
+                                                    int32_t bodySize, char *dst, int32_t dstSize);
 
 /* ===== end video ===== */
 

@@ -23,6 +23,22 @@ inline int32_t bounded_count(int32_t count, int32_t limit) { return count < limi
    slot order (0 marks an empty slot); [] when every slot is empty. */
 void add_nonzero_int_array(cJSON *parent, const char *key, const int32_t *slots, int32_t count);
 
+/* The non-zero values among 30 slots, in slot order (0 marks an empty slot):
+   the compact bit-rate list, shown read-only. */
+struct NonzeroValues {
+    int32_t values[30];
+    int32_t count;
+};
+
+inline NonzeroValues nonzero_values(const int32_t (&slots)[30])
+{
+    NonzeroValues v{};
+    for (int32_t s : slots)
+        if (s != 0)
+            v.values[v.count++] = s;
+    return v;
+}
+
 } // namespace mw
 
 #endif /* MIDDLEWARE_STREAMS_H */

@@ -6,7 +6,6 @@
 #include "streams.h"
 
 
-using mw::add;
 
 namespace mw {
 
@@ -32,204 +31,206 @@ constexpr int32_t kFiveStreams = 5;
 
 /* A codec's resolutions as the frame-rate page shows them: "availableSize"
    as stored, then "resolution" with the valid entries. */
-void add_codec_framerates(cJSON *stream, const char *codec, const video_codec_group_entry &group)
+template <typename A, typename Group>
+void codec_framerates(A &a, const char *codec, Group &group)
 {
-    cJSON *o = mw::object(stream, codec);
-    add(o, "availableSize", group.availableSize);
-    cJSON *list = mw::array(o, "resolution");
-    const int32_t size = mw::bounded_count(group.availableSize, 10);
-    for (int32_t r = 0; r < size; ++r) {
-        cJSON *item = mw::append_object(list);
-        add(item, "width", group.resolution[r].width);
-        add(item, "height", group.resolution[r].height);
-        add(item, "framerate", group.resolution[r].framerate);
-    }
+    a.object(mw::Name::fixed(codec), [&](auto &o) {
+        o("availableSize", group.availableSize);
+        o.list("resolution", nullptr, [&](auto &l) {
+            const int32_t size = mw::bounded_count(group.availableSize, 10);
+            for (int32_t r = 0; r < size; ++r) {
+                l.item([&](auto &item) {
+                    item("width", group.resolution[r].width);
+                    item("height", group.resolution[r].height);
+                    item("framerate", group.resolution[r].framerate);
+                });
+            }
+        });
+    });
 }
 
 } // namespace
 
-int32_t get_video_general_json(const video_general_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        cJSON *streams = mw::object(root, "streamList");
-        const int32_t count = mw::bounded_count(in->streamCount, mw::kStreamNameCount);
+MW_SETTABLE_PAGE(video_general, [](auto &a, auto &r) {
+    a.object("streamList", [&](auto &streams) {
+        const int32_t count = mw::bounded_count(r.streamCount, mw::kStreamNameCount);
         for (int32_t i = 0; i < count; ++i) {
-            cJSON *s = mw::object(streams, mw::kStreamNames[i]);
-            if (i != 0)
-                add(s, "enable", in->enable[i]); // the main stream is always on
-            add(s, "width", in->width[i]);
-            add(s, "height", in->height[i]);
-            add(s, "url", in->url[i]);
-            add(s, "profileGop", in->profileGop[i]);
-            add(s, "rateMode", in->rateMode[i]);
-            add(s, "framerate", in->framerate[i]);
-            add(s, "bitrate", in->bitrate[i]);
-            add(s, "smartStreamEnable", in->smartStreamEnable[i]);
-            add(s, "smartStreamLevel", in->smartStreamLevel[i]);
-            add(s, "profile", in->profile[i]);
-            add(s, "profileCodec", in->profileCodec[i]);
-            add(s, "rateQuality", in->rateQuality[i]);
-            add(s, "vbrQuality", in->vbrQuality[i]);
+            streams.object(mw::Name::fixed(mw::kStreamNames[i]), [&](auto &s) {
+                if (i != 0)
+                    s("enable", r.enable[i]); // the main stream is always on
+                s("width", r.width[i]);
+                s("height", r.height[i]);
+                s("url", r.url[i]);
+                s("profileGop", r.profileGop[i]);
+                s("rateMode", r.rateMode[i]);
+                s("framerate", r.framerate[i]);
+                s("bitrate", r.bitrate[i]);
+                s("smartStreamEnable", r.smartStreamEnable[i]);
+                s("smartStreamLevel", r.smartStreamLevel[i]);
+                s("profile", r.profile[i]);
+                s("profileCodec", r.profileCodec[i]);
+                s("rateQuality", r.rateQuality[i]);
+                s("vbrQuality", r.vbrQuality[i]);
+            });
         }
-        add(root, "rtspPort", in->rtspPort);
     });
-}
+    a("rtspPort", r.rtspPort);
+})
 
-int32_t get_video_advanced_json(const video_advanced_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        cJSON *streams = mw::object(root, "streamList");
-        const int32_t count = mw::bounded_count(in->streamCount, mw::kStreamNameCount);
+MW_SETTABLE_PAGE(video_advanced, [](auto &a, auto &r) {
+    a.object("streamList", [&](auto &streams) {
+        const int32_t count = mw::bounded_count(r.streamCount, mw::kStreamNameCount);
         for (int32_t i = 0; i < count; ++i) {
-            cJSON *s = mw::object(streams, mw::kStreamNames[i]);
-            add(s, "enable", in->enable[i]);
-            add(s, "string", in->string[i]);
-            add(s, "dateTimeEnable", in->dateTimeEnable[i]);
-            add(s, "fontSize", in->fontSize[i]);
-            add(s, "fontColor", in->fontColor[i]);
-            add(s, "backgroundEnable", in->backgroundEnable[i]);
-            add(s, "backgroundColor", in->backgroundColor[i]);
-            add(s, "textPosition", in->textPosition[i]);
-            add(s, "dateTimePosition", in->dateTimePosition[i]);
-            add(s, "dateTimeFormat", in->dateTimeFormat[i]);
-        }
-        cJSON *sensors = mw::array(root, "sensorList");
-        for (int32_t j = 0; j < 2; ++j) {
-            cJSON *sensor = mw::append_object(sensors);
-            add(sensor, "sensorIndex", j);
-            add(sensor, "osdZoomTime", in->osdZoomTime[j]);
+            streams.object(mw::Name::fixed(mw::kStreamNames[i]), [&](auto &s) {
+                s("enable", r.enable[i]);
+                s("string", r.string[i]);
+                s("dateTimeEnable", r.dateTimeEnable[i]);
+                s("fontSize", r.fontSize[i]);
+                s("fontColor", r.fontColor[i]);
+                s("backgroundEnable", r.backgroundEnable[i]);
+                s("backgroundColor", r.backgroundColor[i]);
+                s("textPosition", r.textPosition[i]);
+                s("dateTimePosition", r.dateTimePosition[i]);
+                s("dateTimeFormat", r.dateTimeFormat[i]);
+            });
         }
     });
-}
+    a.list("sensorList", "sensorIndex", [&](auto &l) {
+        for (int32_t j = 0; j < 2; ++j)
+            l.item(j, [&](auto &sensor) { sensor("osdZoomTime", r.osdZoomTime[j]); });
+    });
+})
 
-int32_t get_video_framerate_json(const video_framerate_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "streamCount", in->streamCount);
-        const int32_t count = mw::bounded_count(in->streamCount, kFiveStreams);
-        for (int32_t i = 0; i < count; ++i) {
-            if (in->streamValid[i] == 0)
-                continue;
-            cJSON *s = mw::object(root, mw::kStreamNames[i]);
-            add_codec_framerates(s, "H264", in->streams[i].h264);
-            add_codec_framerates(s, "H265", in->streams[i].h265);
-            if (in->mjpegSupport[i] != 0)
-                add_codec_framerates(s, "Mjpeg", in->streams[i].mjpeg);
-        }
-    });
-}
+MW_READ_ONLY_PAGE(video_framerate, [](auto &a, auto &r) {
+    a("streamCount", r.streamCount);
+    const int32_t count = mw::bounded_count(r.streamCount, kFiveStreams);
+    for (int32_t i = 0; i < count; ++i) {
+        if (r.streamValid[i] == 0)
+            continue;
+        a.object(mw::Name::fixed(mw::kStreamNames[i]), [&](auto &s) {
+            codec_framerates(s, "H264", r.streams[i].h264);
+            codec_framerates(s, "H265", r.streams[i].h265);
+            if (r.mjpegSupport[i] != 0)
+                codec_framerates(s, "Mjpeg", r.streams[i].mjpeg);
+        });
+    }
+})
 
-int32_t get_video_bit_info_json(const video_bit_info_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        for (int32_t i = 0; i < kFiveStreams; ++i) {
-            cJSON *s = mw::object(root, mw::kStreamNames[i]);
-            mw::add_nonzero_int_array(s, "bitrate", in->bitrate[i], 30);
-        }
-    });
-}
+MW_READ_ONLY_PAGE(video_bit_info, [](auto &a, auto &r) {
+    for (int32_t i = 0; i < kFiveStreams; ++i) {
+        a.object(mw::Name::fixed(mw::kStreamNames[i]), [&](auto &s) {
+            const mw::NonzeroValues rates = mw::nonzero_values(r.bitrate[i]);
+            s.derived_numbers("bitrate", rates.values, rates.count);
+        });
+    }
+})
 
 /* ==== sensor, fisheye, multicast and playback settings ==== */
+
+namespace {
+constexpr auto describe_sensor_config = [](auto &a, auto &r) {
+    a.list("sensorList", "sensorIndex", [&](auto &l) {
+        for (int32_t s = 0; s < 2; ++s)
+            l.item(s, [&](auto &sensor) { sensor("outputMode", r.outputMode[s]); });
+    });
+};
+} // namespace
 
 int32_t get_sensor_config_json(const sensor_config_record *in, char *dst, int32_t dstSize)
 {
     // The only page of the group that prints whatever buffer it is given.
-    return mw::document_without_buffer_test(dst, dstSize, [in](cJSON *root) {
-        cJSON *sensors = mw::array(root, "sensorList");
-        for (int32_t s = 0; s < 2; ++s) {
-            cJSON *sensor = mw::append_object(sensors);
-            add(sensor, "sensorIndex", s);
-            add(sensor, "outputMode", in->outputMode[s]);
-        }
-    });
+    return mw::render_page_unchecked(dst, dstSize, describe_sensor_config, *in);
 }
 
-int32_t get_video_fisheye_ptz_osd_json(const video_fisheye_ptz_osd_record *in, char *dst, int32_t dstSize)
+int32_t schema_sensor_config_json(const sensor_config_record *in, char *dst, int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "presetStatus", in->presetStatus);
-        add(root, "patrolStatus", in->patrolStatus);
-        add(root, "autoscanStatus", in->autoscanStatus);
-        add(root, "zoomStatus", in->zoomStatus);
-    });
+    return mw::schema_page(dst, dstSize, "get_sensor_config_json", false, describe_sensor_config, *in);
 }
 
-int32_t get_video_ts_multicast_json(const video_ts_multicast_record *in, char *dst, int32_t dstSize)
+int32_t set_sensor_config_json(sensor_config_record *record, const char *body, int32_t bodySize, char *dst,
+                               int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enable", in->enable);
-        add(root, "addr", in->addr);
-        add(root, "port", in->port);
-    });
+    return mw::apply_page(describe_sensor_config, record, body, bodySize, dst, dstSize);
 }
 
-int32_t get_video_fish_dewarping_json(const video_fish_dewarping_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "viewField", in->viewField);
-        add(root, "correctModel", in->correctModel);
-    });
-}
+MW_SETTABLE_PAGE(video_fisheye_ptz_osd, [](auto &a, auto &r) {
+    a("presetStatus", r.presetStatus);
+    a("patrolStatus", r.patrolStatus);
+    a("autoscanStatus", r.autoscanStatus);
+    a("zoomStatus", r.zoomStatus);
+})
 
-int32_t get_playvideo_config_json(const playvideo_config_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "mode", in->mode);
-        add(root, "cyclicIndex", in->cyclicIndex);
-        add(root, "playIndex", in->playIndex);
-        add(root, "interval", in->interval); // last, though stored second
-        add(root, "nfsPath", in->nfsPath);
-        add(root, "nasPath", in->nasPath);
-        cJSON *list = mw::array(root, "videoList");
+MW_SETTABLE_PAGE(video_ts_multicast, [](auto &a, auto &r) {
+    a("enable", r.enable);
+    a("addr", r.addr);
+    a("port", r.port);
+})
+
+MW_SETTABLE_PAGE(video_fish_dewarping, [](auto &a, auto &r) {
+    a("viewField", r.viewField);
+    a("correctModel", r.correctModel);
+})
+
+MW_SETTABLE_PAGE(playvideo_config, [](auto &a, auto &r) {
+    a("mode", r.mode);
+    a("cyclicIndex", r.cyclicIndex);
+    a("playIndex", r.playIndex);
+    a("interval", r.interval); // last, though stored second
+    a("nfsPath", r.nfsPath);
+    a("nasPath", r.nasPath);
+    a.list("videoList", "index", [&](auto &l) {
         for (int32_t i = 0; i < 500; ++i) {
-            const playvideo_entry &v = in->videos[i];
+            auto &v = r.videos[i];
             if (v.name[0] == '\0')
                 continue; // a free slot; its number stays out of the list
-            cJSON *item = mw::append_object(list);
-            add(item, "index", i);
-            add(item, "name", v.name);
-            add(item, "speed", v.speed);
+            l.item(i, [&](auto &item) {
+                item("name", v.name);
+                item("speed", v.speed);
+            });
         }
     });
-}
+})
 
-int32_t get_playvideo_filename_json(const playvideo_filename_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        cJSON *list = mw::array(root, "videoList");
+MW_READ_ONLY_PAGE(playvideo_filename, [](auto &a, auto &r) {
+    a.list("videoList", "index", [&](auto &l) {
         for (int32_t i = 0; i < 500; ++i) {
-            if (in->name[i][0] == '\0')
-                continue;
-            cJSON *item = mw::append_object(list);
-            add(item, "index", i);
-            add(item, "name", in->name[i]);
+            if (r.name[i][0] != '\0')
+                l.item(i, [&](auto &item) { item("name", r.name[i]); });
         }
     });
-}
+})
+
+namespace {
+constexpr auto describe_dehumidifying_info = [](auto &a, auto &info, auto &status) {
+    a("fanWorkingMode", info.fanWorkingMode);
+    // Plain degrees with two decimals, no unit.
+    a.derived("temperature", mw::Text<128>("%.2f", status.temperature));
+    a("fan", status.fan);
+};
+} // namespace
 
 int32_t get_dehumidifying_info_json(const dehumidifying_info_record *info, const dehumidifying_status_record *status,
                                     char *dst, int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [info, status](cJSON *root) {
-        add(root, "fanWorkingMode", info->fanWorkingMode);
-        // Plain degrees with two decimals, no unit.
-        mw::add_string(root, "temperature", mw::Text<128>("%.2f", status->temperature));
-        add(root, "fan", status->fan);
-    });
+    return mw::render_page(dst, dstSize, describe_dehumidifying_info, *info, *status);
+}
+
+int32_t schema_dehumidifying_info_json(const dehumidifying_info_record *info,
+                                       const dehumidifying_status_record *status, char *dst, int32_t dstSize)
+{
+    return mw::schema_page(dst, dstSize, "get_dehumidifying_info_json", false, describe_dehumidifying_info, *info,
+                           *status);
+}
+
+int32_t set_dehumidifying_info_json(dehumidifying_info_record *info, dehumidifying_status_record *status,
+                                    const char *body, int32_t bodySize, char *dst, int32_t dstSize)
+{
+    return mw::apply_page(describe_dehumidifying_info, info, status, body, bodySize, dst, dstSize);
 }
 
 /* ==== fisheye stream profiles ==== */
 
 namespace {
-
-/* One display mode as the document walks it: its name, its stream slots and
-   its event stream. */
-struct FisheyeMode {
-    const char *name;
-    const fisheye_stream_entry *const *streams;
-    int32_t slots;
-    const fisheye_event_stream_entry *event;
-};
 
 /* The stored profile letter as the document's number. */
 int32_t profile_number(char letter)
@@ -241,61 +242,59 @@ int32_t profile_number(char letter)
     return 2;
 }
 
-void add_fisheye_mode(cJSON *root, const FisheyeMode &mode)
+/* One display mode: its event stream and its stream slots. Both are the
+   encoder's own entries, reached through const pointers, so the mode's keys
+   are shown read-only. */
+template <typename A, typename Mode>
+void fisheye_mode(A &a, const char *name, Mode &mode)
 {
-    cJSON *m = mw::object(root, mode.name);
-    if (mode.event != nullptr) {
-        const fisheye_event_stream_entry &e = *mode.event;
-        add(m, "eventEnable", e.eventEnable);
-        add(m, "eventBitrate", e.eventBitrate);
-        add(m, "eventFramerate", e.eventFramerate + 1); // stored zero-based
-        add(m, "eventGop", e.eventGop);
-    }
-    cJSON *list = mw::array(m, "streamList");
-    for (int32_t j = 0; j < mode.slots; ++j) {
-        const fisheye_stream_entry *s = mode.streams[j];
-        if (s == nullptr)
-            continue; // the mode does not use this slot; its number stays a gap
-        cJSON *item = mw::append_object(list);
-        add(item, "streamIndex", j);
-        if (j != 0)
-            add(item, "enable", s->enable); // a mode's first stream is always on
-        add(item, "bitrate", s->bitrate);
-        add(item, "profileCodec", s->profileCodec);
-        add(item, "width", s->width);
-        add(item, "height", s->height);
-        add(item, "framerate", s->framerate + 1); // stored zero-based
-        add(item, "profile", profile_number(s->profile));
-        add(item, "profileGop", s->profileGop);
-        add(item, "rateMode", s->rateMode);
-        add(item, "vbrQuality", s->vbrQuality);
-        add(item, "smartStreamLevel", s->smartStreamLevel);
-        add(item, "smartStreamEnable", s->smartStreamEnable);
-    }
+    constexpr int32_t slots = static_cast<int32_t>(sizeof mode.streams / sizeof mode.streams[0]);
+    a.object(mw::Name::fixed(name), [&](auto &m) {
+        if (mode.event != nullptr) {
+            const fisheye_event_stream_entry &e = *mode.event;
+            m.derived("eventEnable", e.eventEnable);
+            m.derived("eventBitrate", e.eventBitrate);
+            m.derived("eventFramerate", e.eventFramerate + 1); // stored zero-based
+            m.derived("eventGop", e.eventGop);
+        }
+        m.list("streamList", "streamIndex", [&](auto &l) {
+            for (int32_t j = 0; j < slots; ++j) {
+                const fisheye_stream_entry *s = mode.streams[j];
+                if (s == nullptr)
+                    continue; // the mode does not use this slot; its number stays a gap
+                l.item(j, [&](auto &item) {
+                    if (j != 0)
+                        item.derived("enable", s->enable); // a mode's first stream is always on
+                    item.derived("bitrate", s->bitrate);
+                    item.derived("profileCodec", s->profileCodec);
+                    item.derived("width", s->width);
+                    item.derived("height", s->height);
+                    item.derived("framerate", s->framerate + 1); // stored zero-based
+                    item.derived("profile", profile_number(s->profile));
+                    item.derived("profileGop", s->profileGop);
+                    item.derived("rateMode", s->rateMode);
+                    item.derived("vbrQuality", s->vbrQuality);
+                    item.derived("smartStreamLevel", s->smartStreamLevel);
+                    item.derived("smartStreamEnable", s->smartStreamEnable);
+                });
+            }
+        });
+    });
 }
 
 } // namespace
 
-int32_t get_video_fisheye_video_general_json(const video_fisheye_video_general_record *in, char *dst,
-                                             int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "correctModel", in->correctModel);
-        add(root, "displayModel", in->displayModel);
-        add(root, "installModel", in->installModel);
-        add(root, "viewField", in->viewField);
-        add(root, "powerlineFreq", in->powerlineFreq); // last, though stored first
-
-        const FisheyeMode modes[] = {
-            {"1OMode", in->mode1O.streams, 2, in->mode1O.event},
-            {"1PMode", in->mode1P.streams, 2, in->mode1P.event},
-            {"2PMode", in->mode2P.streams, 2, in->mode2P.event},
-            {"4RMode", in->mode4R.streams, 4, in->mode4R.event},
-            {"1O3RMode", in->mode1O3R.streams, 4, in->mode1O3R.event},
-            {"1P3RMode", in->mode1P3R.streams, 4, in->mode1P3R.event},
-            {"1O1P3RMode", in->mode1O1P3R.streams, 5, in->mode1O1P3R.event},
-        };
-        for (const FisheyeMode &mode : modes)
-            add_fisheye_mode(root, mode);
-    });
-}
+MW_SETTABLE_PAGE(video_fisheye_video_general, [](auto &a, auto &r) {
+    a("correctModel", r.correctModel);
+    a("displayModel", r.displayModel);
+    a("installModel", r.installModel);
+    a("viewField", r.viewField);
+    a("powerlineFreq", r.powerlineFreq); // last, though stored first
+    fisheye_mode(a, "1OMode", r.mode1O);
+    fisheye_mode(a, "1PMode", r.mode1P);
+    fisheye_mode(a, "2PMode", r.mode2P);
+    fisheye_mode(a, "4RMode", r.mode4R);
+    fisheye_mode(a, "1O3RMode", r.mode1O3R);
+    fisheye_mode(a, "1P3RMode", r.mode1P3R);
+    fisheye_mode(a, "1O1P3RMode", r.mode1O1P3R);
+})

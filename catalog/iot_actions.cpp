@@ -88,36 +88,34 @@ void fill_osd_blink(event_osd_blink_record &r)
     }
 }
 
+// The action pages read the event records; their functions keep the IoT
+// names.
+#define IOT_ENTRY(resource, Record, description, fill)                                                          \
+    page_entry<RecordPage<Record, sample_in_place<Record, fill>, get_##resource##_json, schema_##resource##_json, \
+                          set_##resource##_json>>("get_" #resource "_json", description)
+
+event_iot_alarm_status_record sample_alarm_status()
+{
+    return event_iot_alarm_status_record{1};
+}
+
 const CatalogEntry entries[] = {
-    {"get_event_iot_record_json", "recording on each IoT alarm rule",
-     [](char *dst, int32_t n) { return get_event_iot_record_json(&sample_in_place<event_record_record, fill_record>(), dst, n); }},
-    {"get_event_iot_snap_json", "snapshots on each IoT alarm rule",
-     [](char *dst, int32_t n) { return get_event_iot_snap_json(&sample_in_place<event_snop_record, fill_snap>(), dst, n); }},
-    {"get_event_extern_iot_output_json", "alarm output switched on each IoT alarm rule",
-     [](char *dst, int32_t n) {
-         return get_event_extern_iot_output_json(&sample_in_place<event_extern_output_record, fill_output>(), dst, n);
-     }},
-    {"get_event_iot_play_audio_json", "audio file played on each IoT alarm rule, with its week",
-     [](char *dst, int32_t n) {
-         return get_event_iot_play_audio_json(&sample_in_place<event_play_audio_record, fill_play_audio>(), dst, n);
-     }},
-    {"get_event_iot_alarm_sip_phone_json", "SIP phone rung on each IoT alarm rule",
-     [](char *dst, int32_t n) {
-         return get_event_iot_alarm_sip_phone_json(&sample_in_place<event_alarm_sip_phone_record, fill_sip_phone>(), dst,
-                                                   n);
-     }},
-    {"get_event_iot_notify_json", "HTTP notification targets of each IoT alarm rule",
-     [](char *dst, int32_t n) { return get_event_iot_notify_json(&sample_in_place<event_notify_record, fill_notify>(), dst, n); }},
-    {"get_event_iot_osd_blink_json", "on-screen display blinking on each IoT alarm rule",
-     [](char *dst, int32_t n) {
-         return get_event_iot_osd_blink_json(&sample_in_place<event_osd_blink_record, fill_osd_blink>(), dst, n);
-     }},
-    {"get_event_iot_alarm_status_json", "current IoT alarm state",
-     [](char *dst, int32_t n) {
-         static const event_iot_alarm_status_record r{1};
-         return get_event_iot_alarm_status_json(&r, dst, n);
-     }},
+    IOT_ENTRY(event_iot_record, event_record_record, "recording on each IoT alarm rule", fill_record),
+    IOT_ENTRY(event_iot_snap, event_snop_record, "snapshots on each IoT alarm rule", fill_snap),
+    IOT_ENTRY(event_extern_iot_output, event_extern_output_record, "alarm output switched on each IoT alarm rule",
+              fill_output),
+    IOT_ENTRY(event_iot_play_audio, event_play_audio_record, "audio file played on each IoT alarm rule, with its week",
+              fill_play_audio),
+    IOT_ENTRY(event_iot_alarm_sip_phone, event_alarm_sip_phone_record, "SIP phone rung on each IoT alarm rule",
+              fill_sip_phone),
+    IOT_ENTRY(event_iot_notify, event_notify_record, "HTTP notification targets of each IoT alarm rule", fill_notify),
+    IOT_ENTRY(event_iot_osd_blink, event_osd_blink_record, "on-screen display blinking on each IoT alarm rule",
+              fill_osd_blink),
+    MW_READ_ONLY_ENTRY(event_iot_alarm_status, "current IoT alarm state", "live alarm state",
+                       (kept<event_iot_alarm_status_record, sample_alarm_status>)),
 };
+
+#undef IOT_ENTRY
 
 } // namespace
 

@@ -170,24 +170,22 @@ iot_device_table *device_table()
     return &t;
 }
 
+// The devices page points at the gateway's device table, which lives as long
+// as the program.
+iot_devices_management_record sample_devices()
+{
+    return iot_devices_management_record{device_table(), 1795820460};
+}
+
 const CatalogEntry entries[] = {
-    {"get_iot_radios_setting_json", "LoRaWAN gateway radio front end and channels",
-     [](char *dst, int32_t n) {
-         return get_iot_radios_setting_json(&sample_in_place<iot_radios_setting_record, fill_radios>(), dst, n);
-     }},
-    {"get_iot_profile_setting_json", "LoRaWAN device profiles in use",
-     [](char *dst, int32_t n) {
-         return get_iot_profile_setting_json(&sample_in_place<iot_profile_setting_record, fill_profiles>(), dst, n);
-     }},
-    {"get_iot_devices_management_json", "registered IoT devices with their sensor readings",
-     [](char *dst, int32_t n) {
-         static const iot_devices_management_record r{device_table(), 1795820460};
-         return get_iot_devices_management_json(&r, dst, n);
-     }},
-    {"get_iot_alarm_settings_json", "threshold alarm rules on the IoT sensors",
-     [](char *dst, int32_t n) {
-         return get_iot_alarm_settings_json(&sample_in_place<iot_alarm_settings_record, fill_alarm_settings>(), dst, n);
-     }},
+    MW_SETTABLE_ENTRY(iot_radios_setting, "LoRaWAN gateway radio front end and channels",
+                      (sample_in_place<iot_radios_setting_record, fill_radios>)),
+    MW_SETTABLE_ENTRY(iot_profile_setting, "LoRaWAN device profiles in use",
+                      (sample_in_place<iot_profile_setting_record, fill_profiles>)),
+    MW_SETTABLE_ENTRY(iot_devices_management, "registered IoT devices with their sensor readings",
+                      (kept<iot_devices_management_record, sample_devices>)),
+    MW_SETTABLE_ENTRY(iot_alarm_settings, "threshold alarm rules on the IoT sensors",
+                      (sample_in_place<iot_alarm_settings_record, fill_alarm_settings>)),
 };
 
 } // namespace

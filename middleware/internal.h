@@ -171,32 +171,37 @@ PolygonText polygon_text(const int32_t *values, size_t count);
  *
  * Pages with other argument lists write the three functions with
  * mw::render_page, mw::apply_page and mw::schema_page. */
-#define MW_PAGE_DESCRIPTION_(resource, ...)                                                                  \
+#define MW_PAGE_DESCRIPTION_(resource, Record, ...)                                                          \
     namespace {                                                                                              \
     constexpr auto describe_##resource = __VA_ARGS__;                                                        \
     }                                                                                                        \
-    int32_t get_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)                   \
+    int32_t get_##resource##_json(const Record *in, char *dst, int32_t dstSize)                              \
     {                                                                                                        \
         return mw::render_page(dst, dstSize, describe_##resource, *in);                                      \
     }
 
-#define MW_READ_ONLY_PAGE(resource, ...)                                                                     \
-    MW_PAGE_DESCRIPTION_(resource, __VA_ARGS__)                                                              \
-    int32_t schema_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)                \
+/* The same for a page over another page's record type (the IoT alarm
+   actions read the event records). */
+#define MW_READ_ONLY_PAGE_OF(resource, Record, ...)                                                          \
+    MW_PAGE_DESCRIPTION_(resource, Record, __VA_ARGS__)                                                      \
+    int32_t schema_##resource##_json(const Record *in, char *dst, int32_t dstSize)                           \
     {                                                                                                        \
         return mw::schema_page(dst, dstSize, "get_" #resource "_json", true, describe_##resource, *in);      \
     }
 
-#define MW_SETTABLE_PAGE(resource, ...)                                                                      \
-    MW_PAGE_DESCRIPTION_(resource, __VA_ARGS__)                                                              \
-    int32_t schema_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)                \
+#define MW_SETTABLE_PAGE_OF(resource, Record, ...)                                                           \
+    MW_PAGE_DESCRIPTION_(resource, Record, __VA_ARGS__)                                                      \
+    int32_t schema_##resource##_json(const Record *in, char *dst, int32_t dstSize)                           \
     {                                                                                                        \
         return mw::schema_page(dst, dstSize, "get_" #resource "_json", false, describe_##resource, *in);     \
     }                                                                                                        \
-    int32_t set_##resource##_json(resource##_record *record, const char *body, int32_t bodySize, char *dst,  \
+    int32_t set_##resource##_json(Record *record, const char *body, int32_t bodySize, char *dst,             \
                                   int32_t dstSize)                                                           \
     {                                                                                                        \
         return mw::apply_page(describe_##resource, record, body, bodySize, dst, dstSize);                    \
     }
+
+#define MW_READ_ONLY_PAGE(resource, ...) MW_READ_ONLY_PAGE_OF(resource, resource##_record, __VA_ARGS__)
+#define MW_SETTABLE_PAGE(resource, ...) MW_SETTABLE_PAGE_OF(resource, resource##_record, __VA_ARGS__)
 
 #endif /* MIDDLEWARE_INTERNAL_H */

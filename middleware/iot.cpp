@@ -5,8 +5,6 @@
  */
 #include "internal.h"
 
-using mw::add;
-
 /* ==== radio, profiles, devices and sensor alarms ==== */
 
 namespace {
@@ -24,165 +22,162 @@ int32_t sensors_in_use(int32_t sensorNum)
     return sensorNum < kSensorSlots ? sensorNum : kSensorSlots;
 }
 
-/* A device's state and the readings of its sensors in use. */
-void add_sensor_info(cJSON *info, const iot_device_entry &device)
+/* A device's state and the readings of its sensors in use. The device table
+   is the gateway's own, reached through a pointer: a request cannot stage
+   it, so its keys are shown read-only. */
+template <typename A>
+void sensor_info(A &a, const iot_device_entry &device)
 {
-    add(info, "deviceStatus", device.deviceStatus);
-    add(info, "battery", device.battery);
-    add(info, "seen", device.seen);
-    add(info, "sensorNum", device.sensorNum);
-    cJSON *list = mw::array(info, "sensorList");
-    const int32_t count = sensors_in_use(device.sensorNum);
-    for (int32_t s = 0; s < count; ++s) {
-        const iot_sensor_entry &sensor = device.sensors[s];
-        cJSON *entry = mw::append_object(list);
-        add(entry, "sensorIndex", s);
-        add(entry, "sensorId", sensor.sensorId);
-        add(entry, "decimalPlace", sensor.decimalPlace);
-        add(entry, "osh", sensor.osh);
-        add(entry, "osl", sensor.osl);
-        add(entry, "portType", sensor.portType);
-        add(entry, "sensorName", sensor.sensorName);
-        add(entry, "sensorType", sensor.sensorType);
-        add(entry, "showOsd", sensor.showOsd);
-        add(entry, "sign", sensor.sign);
-        add(entry, "unit", sensor.unit);
-    }
+    a.derived("deviceStatus", device.deviceStatus);
+    a.derived("battery", device.battery);
+    a.derived("seen", device.seen);
+    a.derived("sensorNum", device.sensorNum);
+    a.list("sensorList", "sensorIndex", [&](auto &l) {
+        const int32_t count = sensors_in_use(device.sensorNum);
+        for (int32_t s = 0; s < count; ++s) {
+            const iot_sensor_entry &sensor = device.sensors[s];
+            l.item(s, [&](auto &entry) {
+                entry.derived("sensorId", sensor.sensorId);
+                entry.derived("decimalPlace", sensor.decimalPlace);
+                entry.derived("osh", sensor.osh);
+                entry.derived("osl", sensor.osl);
+                entry.derived("portType", sensor.portType);
+                entry.derived("sensorName", sensor.sensorName);
+                entry.derived("sensorType", sensor.sensorType);
+                entry.derived("showOsd", sensor.showOsd);
+                entry.derived("sign", sensor.sign);
+                entry.derived("unit", sensor.unit);
+            });
+        }
+    });
 }
 
 } // namespace
 
-int32_t get_iot_radios_setting_json(const iot_radios_setting_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "iotLoraType", in->iotLoraType);
-        add(root, "iotEnable", in->iotEnable);
-        add(root, "cloudModeEnable", in->cloudModeEnable);
-        add(root, "cloudVerification", in->cloudVerification);
-        add(root, "channelPlan", in->channelPlan);
-        add(root, "channelMask", in->channelMask);
-        add(root, "centerRadio_0", in->centerRadio_0);
-        add(root, "centerRadio_1", in->centerRadio_1);
-        cJSON *channels = mw::array(root, "radioChannelList");
+MW_SETTABLE_PAGE(iot_radios_setting, [](auto &a, auto &r) {
+    a("iotLoraType", r.iotLoraType);
+    a("iotEnable", r.iotEnable);
+    a("cloudModeEnable", r.cloudModeEnable);
+    a("cloudVerification", r.cloudVerification);
+    a("channelPlan", r.channelPlan);
+    a("channelMask", r.channelMask);
+    a("centerRadio_0", r.centerRadio_0);
+    a("centerRadio_1", r.centerRadio_1);
+    a.list("radioChannelList", "radioChannel", [&](auto &l) {
         for (int32_t c = 0; c < 8; ++c) {
-            cJSON *channel = mw::append_object(channels);
-            add(channel, "radioChannel", c);
-            add(channel, "enable", in->radioChannelEnable[c]);
-            add(channel, "radio", in->radioChannelRadio[c]);
-            add(channel, "frequency", in->radioChannelFrequency[c]);
-        }
-        add(root, "loraEnable", in->loraEnable);
-        add(root, "loraRadio", in->loraRadio);
-        add(root, "loraFrequency", in->loraFrequency);
-        add(root, "loraBandWidth", in->loraBandWidth);
-        add(root, "loraDataRate", in->loraDataRate);
-        add(root, "fskEnable", in->fskEnable);
-        add(root, "fskRadio", in->fskRadio);
-        add(root, "fskFrequency", in->fskFrequency);
-        add(root, "fskBandWidth", in->fskBandWidth);
-        add(root, "fskDataRate", in->fskDataRate);
-        cJSON *additional = mw::array(root, "additionalChannelList");
-        for (int32_t a = 0; a < 6; ++a) {
-            cJSON *channel = mw::append_object(additional);
-            add(channel, "addChannel", a);
-            add(channel, "frequency", in->addChannelFrequency[a]);
-            add(channel, "minRate", in->minRate[a]);
-            add(channel, "maxRate", in->maxRate[a]);
+            l.item(c, [&](auto &channel) {
+                channel("enable", r.radioChannelEnable[c]);
+                channel("radio", r.radioChannelRadio[c]);
+                channel("frequency", r.radioChannelFrequency[c]);
+            });
         }
     });
-}
+    a("loraEnable", r.loraEnable);
+    a("loraRadio", r.loraRadio);
+    a("loraFrequency", r.loraFrequency);
+    a("loraBandWidth", r.loraBandWidth);
+    a("loraDataRate", r.loraDataRate);
+    a("fskEnable", r.fskEnable);
+    a("fskRadio", r.fskRadio);
+    a("fskFrequency", r.fskFrequency);
+    a("fskBandWidth", r.fskBandWidth);
+    a("fskDataRate", r.fskDataRate);
+    a.list("additionalChannelList", "addChannel", [&](auto &l) {
+        for (int32_t k = 0; k < 6; ++k) {
+            l.item(k, [&](auto &channel) {
+                channel("frequency", r.addChannelFrequency[k]);
+                channel("minRate", r.minRate[k]);
+                channel("maxRate", r.maxRate[k]);
+            });
+        }
+    });
+})
 
-int32_t get_iot_profile_setting_json(const iot_profile_setting_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        cJSON *list = mw::array(root, "profileList");
+MW_SETTABLE_PAGE(iot_profile_setting, [](auto &a, auto &r) {
+    a.list("profileList", "index", [&](auto &l) {
         for (int32_t p = 0; p < 64; ++p) {
-            const iot_profile_entry &profile = in->profiles[p];
+            auto &profile = r.profiles[p];
             if (profile.profileState == -1)
                 continue; // an empty slot; its number stays visible as a gap
-            cJSON *entry = mw::append_object(list);
-            add(entry, "index", p);
-            add(entry, "name", profile.name);
-            add(entry, "maxTxp", profile.maxTxp);
-            add(entry, "joinType", profile.joinType);
-            add(entry, "classType", profile.classType);
-            add(entry, "macVersion", profile.macVersion);
-            add(entry, "paramRevision", profile.paramRevision);
-            add(entry, "rateRx1", profile.rateRx1);
-            add(entry, "rateRx2", profile.rateRx2);
-            add(entry, "freRx2", profile.freRx2);
-            add(entry, "freList", profile.freList);
-            add(entry, "timeoutClassC", profile.timeoutClassC);
+            l.item(p, [&](auto &entry) {
+                entry("name", profile.name);
+                entry("maxTxp", profile.maxTxp);
+                entry("joinType", profile.joinType);
+                entry("classType", profile.classType);
+                entry("macVersion", profile.macVersion);
+                entry("paramRevision", profile.paramRevision);
+                entry("rateRx1", profile.rateRx1);
+                entry("rateRx2", profile.rateRx2);
+                entry("freRx2", profile.freRx2);
+                entry("freList", profile.freList);
+                entry("timeoutClassC", profile.timeoutClassC);
+            });
         }
     });
-}
+})
 
-int32_t get_iot_devices_management_json(const iot_devices_management_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "systemTime", in->systemTime);
-        cJSON *list = mw::array(root, "deviceList");
-        if (in->devices == nullptr)
+MW_SETTABLE_PAGE(iot_devices_management, [](auto &a, auto &r) {
+    a("systemTime", r.systemTime);
+    a.list("deviceList", "index", [&](auto &l) {
+        if (r.devices == nullptr)
             return; // no device table yet: no devices
         for (int32_t d = 0; d < 8; ++d) {
-            const iot_device_entry &device = in->devices->device[d];
+            const iot_device_entry &device = r.devices->device[d];
             if (device.deviceName[0] == '\0')
                 continue; // a free slot
-            cJSON *entry = mw::append_object(list);
-            add(entry, "index", d);
-            add(entry, "deviceName", device.deviceName);
-            add(entry, "deviceEUI", device.deviceEUI);
-            add(entry, "deviceProfile", device.deviceProfile);
-            add(entry, "frameCounterEnable", device.frameCounterEnable);
-            add(entry, "deviceAddress", device.deviceAddress);
-            add(entry, "networkSessionKey", device.networkSessionKey);
-            add(entry, "appSessionKey", device.appSessionKey);
-            add(entry, "applicationKey", device.applicationKey);
-            add(entry, "upLinkFrameCnt", device.upLinkFrameCnt);
-            add(entry, "downLinkFrameCnt", device.downLinkFrameCnt);
-            add(entry, "deviceType", device.deviceType);
-            add(entry, "osdFontSize", device.osdFontSize);
-            mw::add_string(entry, "osdFontColor",
-                           mw::Text<32>("%d:%d:%d", device.osdFontColor[0], device.osdFontColor[1],
-                                       device.osdFontColor[2]));
-            add_sensor_info(mw::object(entry, "sensorInfo"), device);
+            l.item(d, [&](auto &entry) {
+                entry.derived("deviceName", device.deviceName);
+                entry.derived("deviceEUI", device.deviceEUI);
+                entry.derived("deviceProfile", device.deviceProfile);
+                entry.derived("frameCounterEnable", device.frameCounterEnable);
+                entry.derived("deviceAddress", device.deviceAddress);
+                entry.derived("networkSessionKey", device.networkSessionKey);
+                entry.derived("appSessionKey", device.appSessionKey);
+                entry.derived("applicationKey", device.applicationKey);
+                entry.derived("upLinkFrameCnt", device.upLinkFrameCnt);
+                entry.derived("downLinkFrameCnt", device.downLinkFrameCnt);
+                entry.derived("deviceType", device.deviceType);
+                entry.derived("osdFontSize", device.osdFontSize);
+                entry.derived("osdFontColor", mw::Text<32>("%d:%d:%d", device.osdFontColor[0], device.osdFontColor[1],
+                                                         device.osdFontColor[2]));
+                entry.object("sensorInfo", [&](auto &info) { sensor_info(info, device); });
+            });
         }
     });
-}
+})
 
-int32_t get_iot_alarm_settings_json(const iot_alarm_settings_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "isExistSensor", in->isExistSensor);
-        cJSON *rules = mw::array(root, "rulesList");
-        for (int32_t r = 0; r < kIotAlarmRules; ++r) {
-            cJSON *rule = mw::append_object(rules);
-            add(rule, "ruleIndex", r);
-            add(rule, "alarmEnable", in->alarmEnable[r]);
-            cJSON *devices = mw::array(rule, "deviceList");
-            for (int32_t d = 0; d < 8; ++d) {
-                cJSON *device = mw::append_object(devices);
-                add(device, "deviceIndex", d);
-                add(device, "sensorNum", in->sensorNum[d]);
-                cJSON *sensors = mw::array(device, "sensorList");
-                const int32_t count = sensors_in_use(in->sensorNum[d]);
-                for (int32_t s = 0; s < count; ++s) {
-                    cJSON *sensor = mw::append_object(sensors);
-                    add(sensor, "sensorIndex", s);
-                    add(sensor, "sensorEnable", in->sensorEnable[r][d][s]);
-                    add(sensor, "maxLimitEnable", in->maxLimitEnable[r][d][s]);
-                    add(sensor, "minLimitEnable", in->minLimitEnable[r][d][s]);
-                    add(sensor, "maxLimit", in->maxLimit[r][d][s]);
-                    add(sensor, "minLimit", in->minLimit[r][d][s]);
-                }
-            }
-            mw::add_schedule_list(rule, in->schedule[r]);
+MW_SETTABLE_PAGE(iot_alarm_settings, [](auto &a, auto &r) {
+    a("isExistSensor", r.isExistSensor);
+    a.list("rulesList", "ruleIndex", [&](auto &rules) {
+        for (int32_t k = 0; k < kIotAlarmRules; ++k) {
+            rules.item(k, [&](auto &rule) {
+                rule("alarmEnable", r.alarmEnable[k]);
+                rule.list("deviceList", "deviceIndex", [&](auto &devices) {
+                    for (int32_t d = 0; d < 8; ++d) {
+                        devices.item(d, [&](auto &device) {
+                            // The sensor count decides how many sensors are
+                            // listed, so it is read-only here.
+                            device.derived("sensorNum", r.sensorNum[d]);
+                            device.list("sensorList", "sensorIndex", [&](auto &sensors) {
+                                const int32_t count = sensors_in_use(r.sensorNum[d]);
+                                for (int32_t s = 0; s < count; ++s) {
+                                    sensors.item(s, [&](auto &sensor) {
+                                        sensor("sensorEnable", r.sensorEnable[k][d][s]);
+                                        sensor("maxLimitEnable", r.maxLimitEnable[k][d][s]);
+                                        sensor("minLimitEnable", r.minLimitEnable[k][d][s]);
+                                        sensor("maxLimit", r.maxLimit[k][d][s]);
+                                        sensor("minLimit", r.minLimit[k][d][s]);
+                                    });
+                                }
+                            });
+                        });
+                    }
+                });
+                mw::schedule_list(rule, r.schedule[k]);
+            });
         }
     });
-}
-
-/* ==== end radio, profiles, devices and sensor alarms ==== */
-
+})
 
 /* ==== alarm actions per IoT alarm rule ==== */
 
@@ -191,113 +186,85 @@ namespace {
 /* The per-rule action list: "<listKey>" with one object per IoT alarm rule,
    0..3, each led by "ruleIndex" and filled by `fill(object, rule)` with the
    action's keys read at that rule. The records' eventType is not read. */
-template <typename Fill>
-void add_rule_list(cJSON *root, const char *listKey, Fill &&fill)
+template <typename A, typename Fill>
+void rule_list(A &a, const char *listKey, Fill &&fill)
 {
-    cJSON *list = mw::array(root, listKey);
-    for (int32_t r = 0; r < kIotAlarmRules; ++r) {
-        cJSON *rule = mw::append_object(list);
-        add(rule, "ruleIndex", r);
-        fill(rule, r);
-    }
+    a.list(mw::Name::fixed(listKey), "ruleIndex", [&](auto &l) {
+        for (int32_t k = 0; k < kIotAlarmRules; ++k)
+            l.item(k, [&](auto &rule) { fill(rule, k); });
+    });
 }
 
 } // namespace
 
-int32_t get_event_iot_record_json(const event_record_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        // The storage state is the camera's, not a rule's: reported once.
-        add(root, "sdInsert", in->sdInsert[0]);
-        add(root, "nasMountStatus", in->nasMountStatus[0]);
-        add_rule_list(root, "iotRecordActionList", [in](cJSON *rule, int32_t r) {
-            add(rule, "recordEnable", in->recordSettings[r].recordEnable);
-            add(rule, "recordWay", in->recordSettings[r].recordWay);
-            add(rule, "duration", in->duration[r]);
-        });
+MW_SETTABLE_PAGE_OF(event_iot_record, event_record_record, [](auto &a, auto &r) {
+    // The storage state is the camera's, not a rule's: reported once.
+    a("sdInsert", r.sdInsert[0]);
+    a("nasMountStatus", r.nasMountStatus[0]);
+    rule_list(a, "iotRecordActionList", [&](auto &rule, int32_t k) {
+        rule("recordEnable", r.recordSettings[k].recordEnable);
+        rule("recordWay", r.recordSettings[k].recordWay);
+        rule("duration", r.duration[k]);
     });
-}
+})
 
-int32_t get_event_iot_snap_json(const event_snop_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "snapSmtpEnable", in->snapSmtpEnable);
-        add_rule_list(root, "iotSnapshotActionList", [in](cJSON *rule, int32_t r) {
-            add(rule, "snapEnable", in->snapEnable[r]);
-            add(rule, "snapWay", in->snapWay[r]);
-            add(rule, "interval", in->interval[r]);
-            add(rule, "unit", in->unit[r]);
-            add(rule, "imageNum", in->imageNum[r]);
-            add(rule, "smtpInterval", in->smtpInterval[r]);
-        });
+MW_SETTABLE_PAGE_OF(event_iot_snap, event_snop_record, [](auto &a, auto &r) {
+    a("snapSmtpEnable", r.snapSmtpEnable);
+    rule_list(a, "iotSnapshotActionList", [&](auto &rule, int32_t k) {
+        rule("snapEnable", r.snapEnable[k]);
+        rule("snapWay", r.snapWay[k]);
+        rule("interval", r.interval[k]);
+        rule("unit", r.unit[k]);
+        rule("imageNum", r.imageNum[k]);
+        rule("smtpInterval", r.smtpInterval[k]);
     });
-}
+})
 
-int32_t get_event_extern_iot_output_json(const event_extern_output_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add_rule_list(root, "iotOutputActionList", [in](cJSON *rule, int32_t r) {
-            add(rule, "externOutputEnable", in->externOutputEnable[r]);
-            add(rule, "externDuration", in->externDuration[r]);
-            add(rule, "externOutputExtEnable", in->externOutputExtEnable[r]);
-        });
+MW_SETTABLE_PAGE_OF(event_extern_iot_output, event_extern_output_record, [](auto &a, auto &r) {
+    rule_list(a, "iotOutputActionList", [&](auto &rule, int32_t k) {
+        rule("externOutputEnable", r.externOutputEnable[k]);
+        rule("externDuration", r.externDuration[k]);
+        rule("externOutputExtEnable", r.externOutputExtEnable[k]);
     });
-}
+})
 
-int32_t get_event_iot_play_audio_json(const event_play_audio_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add_rule_list(root, "iotPlayAudioActionList", [in](cJSON *rule, int32_t r) {
-            add(rule, "playAudioEnable", in->playAudioEnable[r]);
-            add(rule, "audioInterval", in->audioInterval[r]);
-            mw::add_schedule_list(rule, in->schedule[r]);
-        });
+MW_SETTABLE_PAGE_OF(event_iot_play_audio, event_play_audio_record, [](auto &a, auto &r) {
+    rule_list(a, "iotPlayAudioActionList", [&](auto &rule, int32_t k) {
+        rule("playAudioEnable", r.playAudioEnable[k]);
+        rule("audioInterval", r.audioInterval[k]);
+        mw::schedule_list(rule, r.schedule[k]);
     });
-}
+})
 
-int32_t get_event_iot_alarm_sip_phone_json(const event_alarm_sip_phone_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add_rule_list(root, "iotAlarmSipActionList", [in](cJSON *rule, int32_t r) {
-            add(rule, "alarmSipPhoneEnable", in->alarmSipPhoneEnable[r]);
-        });
-    });
-}
+MW_SETTABLE_PAGE_OF(event_iot_alarm_sip_phone, event_alarm_sip_phone_record, [](auto &a, auto &r) {
+    rule_list(a, "iotAlarmSipActionList",
+              [&](auto &rule, int32_t k) { rule("alarmSipPhoneEnable", r.alarmSipPhoneEnable[k]); });
+})
 
-int32_t get_event_iot_notify_json(const event_notify_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add_rule_list(root, "iotNotifyActionList", [in](cJSON *rule, int32_t r) {
-            add(rule, "httpNotifyEnable", in->httpNotifyEnable[r]);
-            cJSON *targets = mw::array(rule, "notifyInfoList");
+MW_SETTABLE_PAGE_OF(event_iot_notify, event_notify_record, [](auto &a, auto &r) {
+    rule_list(a, "iotNotifyActionList", [&](auto &rule, int32_t k) {
+        rule("httpNotifyEnable", r.httpNotifyEnable[k]);
+        rule.list("notifyInfoList", "index", [&](auto &l) {
             for (int32_t j = 0; j < 3; ++j) {
-                const event_notify_entry &target = in->notifyList[r][j];
-                cJSON *entry = mw::append_object(targets);
-                add(entry, "index", j);
-                add(entry, "enable", target.enable);
-                add(entry, "interval", target.interval);
-                add(entry, "url", target.url);
-                add(entry, "user", target.user);
-                add(entry, "password", target.password);
+                auto &target = r.notifyList[k][j];
+                l.item(j, [&](auto &entry) {
+                    entry("enable", target.enable);
+                    entry("interval", target.interval);
+                    entry("url", target.url);
+                    entry("user", target.user);
+                    entry("password", target.password);
+                });
             }
         });
     });
-}
+})
 
-int32_t get_event_iot_osd_blink_json(const event_osd_blink_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        // "Blank" in the list key is what clients read.
-        add_rule_list(root, "iotOsdBlankActionList", [in](cJSON *rule, int32_t r) {
-            add(rule, "osdBlinkEnable", in->osdBlinkEnable[r]);
-            add(rule, "osdBlinkTime", in->osdBlinkTime[r]);
-        });
+MW_SETTABLE_PAGE_OF(event_iot_osd_blink, event_osd_blink_record, [](auto &a, auto &r) {
+    // "Blank" in the list key is what clients read.
+    rule_list(a, "iotOsdBlankActionList", [&](auto &rule, int32_t k) {
+        rule("osdBlinkEnable", r.osdBlinkEnable[k]);
+        rule("osdBlinkTime", r.osdBlinkTime[k]);
     });
-}
+})
 
-int32_t get_event_iot_alarm_status_json(const event_iot_alarm_status_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) { add(root, "iotAlarmStatus", in->iotAlarmStatus); });
-}
-
-/* ==== end alarm actions per IoT alarm rule ==== */
+MW_READ_ONLY_PAGE(event_iot_alarm_status, [](auto &a, auto &r) { a("iotAlarmStatus", r.iotAlarmStatus); })

@@ -139,9 +139,15 @@ typedef struct iot_alarm_settings_record {
    "additionalChannelList" (always 6). */
 MW_API int32_t get_iot_radios_setting_json(const iot_radios_setting_record *in, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_iot_radios_setting_json(const iot_radios_setting_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_iot_radios_setting_json(iot_radios_setting_record *record, const char *body, int32_t bodySize,
+                                           char *dst, int32_t dstSize);
 /* "profileList": the used slots only, each with its slot number as "index". */
 MW_API int32_t get_iot_profile_setting_json(const iot_profile_setting_record *in, char *dst,
                                             int32_t dstSize);
+MW_API int32_t schema_iot_profile_setting_json(const iot_profile_setting_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_iot_profile_setting_json(iot_profile_setting_record *record, const char *body, int32_t bodySize,
+                                            char *dst, int32_t dstSize);
 /* "systemTime" and "deviceList": the named devices only, each with its slot
    number as "index", its settings, and "sensorInfo" with the readings of
    sensors 0..sensorNum-1 (none for 0 or a negative count). The sensor list
@@ -149,11 +155,17 @@ MW_API int32_t get_iot_profile_setting_json(const iot_profile_setting_record *in
    device table gives an empty "deviceList". */
 MW_API int32_t get_iot_devices_management_json(const iot_devices_management_record *in, char *dst,
                                                int32_t dstSize);
+MW_API int32_t schema_iot_devices_management_json(const iot_devices_management_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_iot_devices_management_json(iot_devices_management_record *record, const char *body,
+                                               int32_t bodySize, char *dst, int32_t dstSize);
 /* "isExistSensor" and "rulesList": all four rules, each with all eight devices
    (present or not) and seven schedule days. A device's "sensorList" holds
    sensors 0..sensorNum-1 and stops at 24, whatever a larger count says. */
 MW_API int32_t get_iot_alarm_settings_json(const iot_alarm_settings_record *in, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_iot_alarm_settings_json(const iot_alarm_settings_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_iot_alarm_settings_json(iot_alarm_settings_record *record, const char *body, int32_t bodySize,
+                                           char *dst, int32_t dstSize);
 
 /* ===== end iot: radio, profiles, devices, sensor alarms ===== */
 
@@ -172,27 +184,50 @@ typedef struct event_iot_alarm_status_record {
 /* "sdInsert" and "nasMountStatus" once, from element 0, then
    "iotRecordActionList" ("recordEnable", "recordWay", "duration"). */
 MW_API int32_t get_event_iot_record_json(const event_record_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_iot_record_json(const event_record_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_event_iot_record_json(event_record_record *record, const char *body, int32_t bodySize, char *dst,
+                                         int32_t dstSize);
 /* "snapSmtpEnable", then "iotSnapshotActionList" (no "snapType"). */
 MW_API int32_t get_event_iot_snap_json(const event_snop_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_iot_snap_json(const event_snop_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_event_iot_snap_json(event_snop_record *record, const char *body, int32_t bodySize, char *dst,
+                                       int32_t dstSize);
 /* "iotOutputActionList". */
 MW_API int32_t get_event_extern_iot_output_json(const event_extern_output_record *in, char *dst,
                                                 int32_t dstSize);
+MW_API int32_t schema_event_extern_iot_output_json(const event_extern_output_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_event_extern_iot_output_json(event_extern_output_record *record, const char *body, int32_t bodySize,
+                                                char *dst, int32_t dstSize);
 /* "iotPlayAudioActionList", each rule with its seven-day "scheduleList". */
 MW_API int32_t get_event_iot_play_audio_json(const event_play_audio_record *in, char *dst,
                                              int32_t dstSize);
+MW_API int32_t schema_event_iot_play_audio_json(const event_play_audio_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_event_iot_play_audio_json(event_play_audio_record *record, const char *body, int32_t bodySize,
+                                             char *dst, int32_t dstSize);
 /* "iotAlarmSipActionList". */
 MW_API int32_t get_event_iot_alarm_sip_phone_json(const event_alarm_sip_phone_record *in, char *dst,
                                                   int32_t dstSize);
+MW_API int32_t schema_event_iot_alarm_sip_phone_json(const event_alarm_sip_phone_record *in, char *dst,
+                                                     int32_t dstSize);
+MW_API int32_t set_event_iot_alarm_sip_phone_json(event_alarm_sip_phone_record *record, const char *body,
+                                                  int32_t bodySize, char *dst, int32_t dstSize);
 /* "iotNotifyActionList", each rule with "notifyInfoList": the three targets
    without their method and snapshot bytes. */
 MW_API int32_t get_event_iot_notify_json(const event_notify_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_event_iot_notify_json(const event_notify_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_event_iot_notify_json(event_notify_record *record, const char *body, int32_t bodySize, char *dst,
+                                         int32_t dstSize);
 /* "iotOsdBlankActionList" (the list key says Blank; its entries' keys say
    Blink). */
 MW_API int32_t get_event_iot_osd_blink_json(const event_osd_blink_record *in, char *dst,
                                             int32_t dstSize);
+MW_API int32_t schema_event_iot_osd_blink_json(const event_osd_blink_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_event_iot_osd_blink_json(event_osd_blink_record *record, const char *body, int32_t bodySize,
+                                            char *dst, int32_t dstSize);
 /* {"iotAlarmStatus": state}. */
 MW_API int32_t get_event_iot_alarm_status_json(const event_iot_alarm_status_record *in, char *dst,
                                                int32_t dstSize);
+MW_API int32_t schema_event_iot_alarm_status_json(const event_iot_alarm_status_record *in, char *dst, int32_t dstSize);
 
 /* ===== end iot: alarm actions per rule ===== */
 

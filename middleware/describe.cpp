@@ -485,6 +485,10 @@ cJSON *Shape::list_schema(cJSON *schema)
 void Shape::close_list(cJSON *schema)
 {
     const int count = cJSON_GetArraySize(member(schema, "prefixItems"));
+    // An empty list allows no element at all; its schema has no items to
+    // list (an empty "prefixItems" is not a valid schema).
+    if (count == 0)
+        cJSON_DeleteItemFromObjectCaseSensitive(schema, "prefixItems");
     cJSON_AddNumberToObject(schema, "minItems", count);
     cJSON_AddNumberToObject(schema, "maxItems", count);
 }

@@ -124,7 +124,7 @@ private:
             const std::string type = type_of(p);
             if (type == "object") {
                 object(value, p, at, next);
-            } else if (type == "array" && test::member(p, "prefixItems") != nullptr) {
+            } else if (type == "array" && cJSON_IsFalse(test::member(p, "items"))) {
                 list(value, p, at, next);
             } else if (!cJSON_IsNumber(test::member(p, "const"))) {
                 leaves.push_back({at, next, p, is_true(p, "readOnly")});

@@ -438,168 +438,123 @@ vca_regional_people_data_record sample_regional_people_data()
     return r;
 }
 
+vca_tamper_record sample_vca_tamper()
+{
+    vca_tamper_record t{};
+    t.tamperEnable = 1;
+    t.tamperSens = 4;
+    sample_schedule(t.schedule);
+    return t;
+}
+
+vca_auto_export_heat_record sample_vca_auto_export_heat()
+{
+    vca_auto_export_heat_record e{};
+    e.enable = 1;
+    e.method = 1; // to the FTP server
+    e.weekday = 1;
+    e.hour = 6;
+    e.min = 30;
+    e.sec = 0;
+    e.timeRange = 7; // the past week
+    return e;
+}
+
+vca_install_mode_record sample_vca_install_mode()
+{
+    vca_install_mode_record m{};
+    m.Installation = 1; // wall mount, looking down at an angle
+    return m;
+}
+
+vca_human_detection_record sample_vca_human_detection()
+{
+    vca_human_detection_record h{};
+    h.humanEnable = 1;
+    h.humanShowTrackEnable = 1;
+    h.humanSens = 5;
+    h.humanTracking = 1;
+    sample_schedule(h.humanSchedule);
+    return h;
+}
+
+vca_regional_auto_export_record sample_vca_regional_auto_export()
+{
+    vca_regional_auto_export_record e{};
+    e.enable = 1;
+    e.method = 0; // by mail
+    e.weekday = 0;
+    e.hour = 22;
+    e.minute = 5;
+    e.second = 0;
+    e.timeRange = 1; // the past day
+    e.stayType = 1;
+    e.stayLength = 300;
+    return e;
+}
+
+vca_people_counting_data_record sample_vca_people_counting_data()
+{
+    vca_people_counting_data_record c{};
+    c.inCount[0] = 214;
+    c.outCount[0] = 198;
+    c.sumCount[0] = 412;
+    c.capacityCount[0] = 16;
+    c.inCount[1] = 37;
+    c.outCount[1] = 41;
+    c.sumCount[1] = 78;
+    c.capacityCount[1] = -4; // more left by the side door than came in
+    return c;
+}
+
 const CatalogEntry entries[] = {
-    {"get_vca_install_mode_json", "how the analytics camera is mounted",
-     [](char *dst, int32_t n) {
-         static const vca_install_mode_record r = [] {
-             vca_install_mode_record m{};
-             m.Installation = 1; // wall mount, looking down at an angle
-             return m;
-         }();
-         return get_vca_install_mode_json(&r, dst, n);
-     }},
-    {"get_vca_region_entrance_json", "region entrance rule with its regions and schedule",
-     [](char *dst, int32_t n) {
-         static const vca_region_entrance_record r = sample_region_entrance();
-         return get_vca_region_entrance_json(&r, dst, n);
-     }},
-    {"get_vca_region_exit_json", "region exit rule with its regions and schedule",
-     [](char *dst, int32_t n) {
-         static const vca_region_exit_record r = sample_region_exit();
-         return get_vca_region_exit_json(&r, dst, n);
-     }},
-    {"get_vca_advanced_motion_json", "advanced motion rule with its regions and schedule",
-     [](char *dst, int32_t n) {
-         static const vca_advanced_motion_record r = sample_advanced_motion();
-         return get_vca_advanced_motion_json(&r, dst, n);
-     }},
-    {"get_vca_loitering_json", "loitering rule with per-region dwell times",
-     [](char *dst, int32_t n) {
-         static const vca_loitering_record r = sample_loitering();
-         return get_vca_loitering_json(&r, dst, n);
-     }},
-    {"get_vca_tamper_json", "tamper detection switch, sensitivity and schedule",
-     [](char *dst, int32_t n) {
-         static const vca_tamper_record r = [] {
-             vca_tamper_record t{};
-             t.tamperEnable = 1;
-             t.tamperSens = 4;
-             sample_schedule(t.schedule);
-             return t;
-         }();
-         return get_vca_tamper_json(&r, dst, n);
-     }},
-    {"get_vca_human_detection_json", "human detection settings with a flat weekly schedule",
-     [](char *dst, int32_t n) {
-         static const vca_human_detection_record r = [] {
-             vca_human_detection_record h{};
-             h.humanEnable = 1;
-             h.humanShowTrackEnable = 1;
-             h.humanSens = 5;
-             h.humanTracking = 1;
-             sample_schedule(h.humanSchedule);
-             return h;
-         }();
-         return get_vca_human_detection_json(&r, dst, n);
-     }},
-    {"get_vca_configuration_json", "analytics identity, period and the actions of its 13 slots",
-     [](char *dst, int32_t n) {
-         static const vca_configuration_record r = sample_configuration();
-         return get_vca_configuration_json(&r, dst, n);
-     }},
-    {"get_vca_alarm_status_json", "live state and counters of the analytics rules",
-     [](char *dst, int32_t n) {
-         static const vca_alarm_status_record r = sample_alarm_status();
-         return get_vca_alarm_status_json(&r, dst, n);
-     }},
-    {"get_vca_all_alarm_status_json", "live state of motion, inputs, outputs, storage and plate lists",
-     [](char *dst, int32_t n) {
-         static const vca_all_alarm_status_record r = sample_all_alarm_status();
-         return get_vca_all_alarm_status_json(&r, dst, n);
-     }},
-    {"get_vca_exception_alarm_status_json", "exception alarms with their enable switches",
-     [](char *dst, int32_t n) {
-         static const vca_all_alarm_status_record r = sample_all_alarm_status();
-         return get_vca_exception_alarm_status_json(&r, dst, n);
-     }},
-    {"get_vca_counting_json", "people counting lines with thresholds, resets and presets",
-     [](char *dst, int32_t n) {
-         static const vca_counting_record r = sample_counting();
-         return get_vca_counting_json(&r, dst, n);
-     }},
-    {"get_vca_face_detection_json", "face detection, shield regions and capture settings",
-     [](char *dst, int32_t n) {
-         static const vca_face_detection_record r = sample_face_detection();
-         return get_vca_face_detection_json(&r, dst, n);
-     }},
-    {"get_vca_all_linecrossing_json", "line crossing rule over all four lines",
-     [](char *dst, int32_t n) {
-         static const vca_line_crossing_record r = sample_line_crossing();
-         return get_vca_all_linecrossing_json(&r, dst, n);
-     }},
-    {"get_vca_left_remove_json", "object left or removed rule with its regions",
-     [](char *dst, int32_t n) {
-         static const vca_left_remove_record r = sample_left_remove();
-         return get_vca_left_remove_json(&r, dst, n);
-     }},
-    {"get_vca_heat_map_json", "heat-map settings, mask and schedule",
-     [](char *dst, int32_t n) {
-         static const vca_heat_map_record r = sample_heat_map();
-         return get_vca_heat_map_json(&r, dst, n);
-     }},
-    {"get_vca_auto_export_heat_json", "weekly automatic export of the heat map",
-     [](char *dst, int32_t n) {
-         static const vca_auto_export_heat_record r = [] {
-             vca_auto_export_heat_record e{};
-             e.enable = 1;
-             e.method = 1; // to the FTP server
-             e.weekday = 1;
-             e.hour = 6;
-             e.min = 30;
-             e.sec = 0;
-             e.timeRange = 7; // the past week
-             return e;
-         }();
-         return get_vca_auto_export_heat_json(&r, dst, n);
-     }},
-    {"get_vca_region_people_json", "regional people counting rule with stay limits",
-     [](char *dst, int32_t n) {
-         static const vca_region_people_record r = sample_region_people();
-         return get_vca_region_people_json(&r, dst, n);
-     }},
-    {"get_vca_regional_auto_export_json", "daily automatic export of the regional people report",
-     [](char *dst, int32_t n) {
-         static const vca_regional_auto_export_record r = [] {
-             vca_regional_auto_export_record e{};
-             e.enable = 1;
-             e.method = 0; // by mail
-             e.weekday = 0;
-             e.hour = 22;
-             e.minute = 5;
-             e.second = 0;
-             e.timeRange = 1; // the past day
-             e.stayType = 1;
-             e.stayLength = 300;
-             return e;
-         }();
-         return get_vca_regional_auto_export_json(&r, dst, n);
-     }},
-    {"get_vca_person_point_json", "person tracks with their start and stop points",
-     [](char *dst, int32_t n) {
-         static const vca_person_point_record r = sample_person_points();
-         return get_vca_person_point_json(&r, dst, n);
-     }},
-    {"get_vca_people_counting_data_json", "live in, out, sum and capacity counts per line",
-     [](char *dst, int32_t n) {
-         static const vca_people_counting_data_record r = [] {
-             vca_people_counting_data_record c{};
-             c.inCount[0] = 214;
-             c.outCount[0] = 198;
-             c.sumCount[0] = 412;
-             c.capacityCount[0] = 16;
-             c.inCount[1] = 37;
-             c.outCount[1] = 41;
-             c.sumCount[1] = 78;
-             c.capacityCount[1] = -4; // more left by the side door than came in
-             return c;
-         }();
-         return get_vca_people_counting_data_json(&r, dst, n);
-     }},
-    {"get_vca_regional_people_data_json", "people now in each region and how long they stay",
-     [](char *dst, int32_t n) {
-         static const vca_regional_people_data_record r = sample_regional_people_data();
-         return get_vca_regional_people_data_json(&r, dst, n);
-     }},
+    MW_SETTABLE_ENTRY(vca_install_mode, "how the analytics camera is mounted",
+                      (kept<vca_install_mode_record, sample_vca_install_mode>)),
+    MW_SETTABLE_ENTRY(vca_region_entrance, "region entrance rule with its regions and schedule",
+                      (kept<vca_region_entrance_record, sample_region_entrance>)),
+    MW_SETTABLE_ENTRY(vca_region_exit, "region exit rule with its regions and schedule",
+                      (kept<vca_region_exit_record, sample_region_exit>)),
+    MW_SETTABLE_ENTRY(vca_advanced_motion, "advanced motion rule with its regions and schedule",
+                      (kept<vca_advanced_motion_record, sample_advanced_motion>)),
+    MW_SETTABLE_ENTRY(vca_loitering, "loitering rule with per-region dwell times",
+                      (kept<vca_loitering_record, sample_loitering>)),
+    MW_SETTABLE_ENTRY(vca_tamper, "tamper detection switch, sensitivity and schedule",
+                      (kept<vca_tamper_record, sample_vca_tamper>)),
+    MW_SETTABLE_ENTRY(vca_human_detection, "human detection settings with a flat weekly schedule",
+                      (kept<vca_human_detection_record, sample_vca_human_detection>)),
+    MW_SETTABLE_ENTRY(vca_configuration, "analytics identity, period and the actions of its 13 slots",
+                      (kept<vca_configuration_record, sample_configuration>)),
+    MW_READ_ONLY_ENTRY(vca_alarm_status, "live state and counters of the analytics rules", "live alarm states",
+                       (kept<vca_alarm_status_record, sample_alarm_status>)),
+    MW_READ_ONLY_ENTRY(vca_all_alarm_status, "live state of motion, inputs, outputs, storage and plate lists", "live alarm states",
+                       (kept<vca_all_alarm_status_record, sample_all_alarm_status>)),
+    page_entry<ReadOnlyRecordPage<vca_all_alarm_status_record, kept<vca_all_alarm_status_record, sample_all_alarm_status>,
+                                  get_vca_exception_alarm_status_json, schema_vca_exception_alarm_status_json>>(
+        "get_vca_exception_alarm_status_json", "exception alarms with their enable switches", "live alarm states"),
+    MW_SETTABLE_ENTRY(vca_counting, "people counting lines with thresholds, resets and presets",
+                      (kept<vca_counting_record, sample_counting>)),
+    MW_SETTABLE_ENTRY(vca_face_detection, "face detection, shield regions and capture settings",
+                      (kept<vca_face_detection_record, sample_face_detection>)),
+    page_entry<RecordPage<vca_line_crossing_record, kept<vca_line_crossing_record, sample_line_crossing>,
+                          get_vca_all_linecrossing_json, schema_vca_all_linecrossing_json,
+                          set_vca_all_linecrossing_json>>("get_vca_all_linecrossing_json",
+                                                          "line crossing rule over all four lines"),
+    MW_SETTABLE_ENTRY(vca_left_remove, "object left or removed rule with its regions",
+                      (kept<vca_left_remove_record, sample_left_remove>)),
+    MW_SETTABLE_ENTRY(vca_heat_map, "heat-map settings, mask and schedule",
+                      (kept<vca_heat_map_record, sample_heat_map>)),
+    MW_SETTABLE_ENTRY(vca_auto_export_heat, "weekly automatic export of the heat map",
+                      (kept<vca_auto_export_heat_record, sample_vca_auto_export_heat>)),
+    MW_SETTABLE_ENTRY(vca_region_people, "regional people counting rule with stay limits",
+                      (kept<vca_region_people_record, sample_region_people>)),
+    MW_SETTABLE_ENTRY(vca_regional_auto_export, "daily automatic export of the regional people report",
+                      (kept<vca_regional_auto_export_record, sample_vca_regional_auto_export>)),
+    MW_READ_ONLY_ENTRY(vca_person_point, "person tracks with their start and stop points", "live tracking report",
+                       (kept<vca_person_point_record, sample_person_points>)),
+    MW_READ_ONLY_ENTRY(vca_people_counting_data, "live in, out, sum and capacity counts per line", "live counters",
+                       (kept<vca_people_counting_data_record, sample_vca_people_counting_data>)),
+    MW_READ_ONLY_ENTRY(vca_regional_people_data, "people now in each region and how long they stay", "live people report",
+                       (kept<vca_regional_people_data_record, sample_regional_people_data>)),
 };
 
 } // namespace

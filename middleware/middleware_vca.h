@@ -169,23 +169,44 @@ typedef struct vca_human_detection_record {
 
 /* {"Installation"} - the key keeps its capital letter. */
 MW_API int32_t get_vca_install_mode_json(const vca_install_mode_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_vca_install_mode_json(const vca_install_mode_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_install_mode_json(vca_install_mode_record *record, const char *body, int32_t bodySize, char *dst,
+                                         int32_t dstSize);
 /* Sensitivity, tracking, scene and size filter, then "detectionInfoList"
    (all 4 regions, each with its 4 preset polygons) and "scheduleList". */
 MW_API int32_t get_vca_region_entrance_json(const vca_region_entrance_record *in, char *dst,
                                             int32_t dstSize);
+MW_API int32_t schema_vca_region_entrance_json(const vca_region_entrance_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_region_entrance_json(vca_region_entrance_record *record, const char *body, int32_t bodySize,
+                                            char *dst, int32_t dstSize);
 MW_API int32_t get_vca_region_exit_json(const vca_region_exit_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_vca_region_exit_json(const vca_region_exit_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_region_exit_json(vca_region_exit_record *record, const char *body, int32_t bodySize, char *dst,
+                                        int32_t dstSize);
 /* As region entrance, with "ignoreShortLived" after "scene". */
 MW_API int32_t get_vca_advanced_motion_json(const vca_advanced_motion_record *in, char *dst,
                                             int32_t dstSize);
+MW_API int32_t schema_vca_advanced_motion_json(const vca_advanced_motion_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_advanced_motion_json(vca_advanced_motion_record *record, const char *body, int32_t bodySize,
+                                            char *dst, int32_t dstSize);
 /* As region entrance without a sensitivity key; each region also carries its
    "minLoiteringTime". */
 MW_API int32_t get_vca_loitering_json(const vca_loitering_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_vca_loitering_json(const vca_loitering_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_loitering_json(vca_loitering_record *record, const char *body, int32_t bodySize, char *dst,
+                                      int32_t dstSize);
 /* "tamperEnable", "tamperSens", "scheduleList". */
 MW_API int32_t get_vca_tamper_json(const vca_tamper_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_vca_tamper_json(const vca_tamper_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_tamper_json(vca_tamper_record *record, const char *body, int32_t bodySize, char *dst,
+                                   int32_t dstSize);
 /* The four values, then the schedule as seven flat keys "humanSchedule_0" ..
    "humanSchedule_6" (no "scheduleList"). */
 MW_API int32_t get_vca_human_detection_json(const vca_human_detection_record *in, char *dst,
                                             int32_t dstSize);
+MW_API int32_t schema_vca_human_detection_json(const vca_human_detection_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_human_detection_json(vca_human_detection_record *record, const char *body, int32_t bodySize,
+                                            char *dst, int32_t dstSize);
 
 /* The analytics configuration: identity, activation period, and what the
    camera does when an analytics event fires. Every [13] array is indexed by
@@ -307,17 +328,24 @@ typedef struct vca_all_alarm_status_record {
 /* A flat document: identity and period, then the slot keys "uploadEnable_0"
    .. "whiteledGroup_12", grouped by loop as the pages expect them. */
 MW_API int32_t get_vca_configuration_json(const vca_configuration_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_vca_configuration_json(const vca_configuration_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_configuration_json(vca_configuration_record *record, const char *body, int32_t bodySize,
+                                          char *dst, int32_t dstSize);
 /* The rule states and counters, then "lineCrossAlarmList" (4 lines). */
 MW_API int32_t get_vca_alarm_status_json(const vca_alarm_status_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_vca_alarm_status_json(const vca_alarm_status_record *in, char *dst, int32_t dstSize);
 /* The alarm states, then "inputAlarmList" (4) and "outputAlarmList" (2); the
    exception switches and the tamper pair are not in this document. */
 MW_API int32_t get_vca_all_alarm_status_json(const vca_all_alarm_status_record *in, char *dst,
                                              int32_t dstSize);
+MW_API int32_t schema_vca_all_alarm_status_json(const vca_all_alarm_status_record *in, char *dst, int32_t dstSize);
 /* The exception alarms from the same record, switch then state; the IP
    conflict state is "ipconflictAlarmStatus" here, "ipConflictAlarmStatus" in
    the document above. */
 MW_API int32_t get_vca_exception_alarm_status_json(const vca_all_alarm_status_record *in, char *dst,
                                                    int32_t dstSize);
+MW_API int32_t schema_vca_exception_alarm_status_json(const vca_all_alarm_status_record *in, char *dst,
+                                                      int32_t dstSize);
 
 /* People counting across up to 4 counting lines (l 0..3), each drawn once more
    for each of up to 4 PTZ presets (p 0..3). Thresholds are people counts;
@@ -465,16 +493,28 @@ typedef struct vca_left_remove_record {
    with "presetLineList" of 4) and "scheduleList". "allLineOutAlarmEnanble"
    keeps its historic spelling. */
 MW_API int32_t get_vca_counting_json(const vca_counting_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_vca_counting_json(const vca_counting_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_counting_json(vca_counting_record *record, const char *body, int32_t bodySize, char *dst,
+                                     int32_t dstSize);
 /* Settings, detection area, "shieldRegionList" (4), "captureSettingsList" (3)
    and "scheduleList". */
 MW_API int32_t get_vca_face_detection_json(const vca_face_detection_record *in, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_vca_face_detection_json(const vca_face_detection_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_face_detection_json(vca_face_detection_record *record, const char *body, int32_t bodySize,
+                                           char *dst, int32_t dstSize);
 /* All four lines in "detectionInfoList"; end points are written as the text
    "x1;y1;x2;y2", cut at 31 characters. */
 MW_API int32_t get_vca_all_linecrossing_json(const vca_line_crossing_record *in, char *dst,
                                              int32_t dstSize);
+MW_API int32_t schema_vca_all_linecrossing_json(const vca_line_crossing_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_all_linecrossing_json(vca_line_crossing_record *record, const char *body, int32_t bodySize,
+                                             char *dst, int32_t dstSize);
 /* The region-rule shape with "leftEnable" and "removeEnable" per region. */
 MW_API int32_t get_vca_left_remove_json(const vca_left_remove_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_vca_left_remove_json(const vca_left_remove_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_left_remove_json(vca_left_remove_record *record, const char *body, int32_t bodySize, char *dst,
+                                        int32_t dstSize);
 
 /* Heat-map settings. `mask` is the masked-out area as drawn by the page. */
 typedef struct vca_heat_map_record {
@@ -592,27 +632,45 @@ typedef struct vca_regional_people_data_record {
 
 /* Settings, "mask", support flags and "scheduleList". */
 MW_API int32_t get_vca_heat_map_json(const vca_heat_map_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_vca_heat_map_json(const vca_heat_map_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_heat_map_json(vca_heat_map_record *record, const char *body, int32_t bodySize, char *dst,
+                                     int32_t dstSize);
 /* "enable", the time, "timeRange", and "method" last. */
 MW_API int32_t get_vca_auto_export_heat_json(const vca_auto_export_heat_record *in, char *dst,
                                              int32_t dstSize);
+MW_API int32_t schema_vca_auto_export_heat_json(const vca_auto_export_heat_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_auto_export_heat_json(vca_auto_export_heat_record *record, const char *body, int32_t bodySize,
+                                             char *dst, int32_t dstSize);
 /* Sensitivity, scene, size filter, "detectionInfoList" (4 regions with their
    stay limits and preset polygons) and "scheduleList". */
 MW_API int32_t get_vca_region_people_json(const vca_region_people_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_vca_region_people_json(const vca_region_people_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_vca_region_people_json(vca_region_people_record *record, const char *body, int32_t bodySize,
+                                          char *dst, int32_t dstSize);
 /* The export time as one text "hh:mm:ss" ("%02d" each, signed). */
 MW_API int32_t get_vca_regional_auto_export_json(const vca_regional_auto_export_record *in, char *dst,
                                                  int32_t dstSize);
+MW_API int32_t schema_vca_regional_auto_export_json(const vca_regional_auto_export_record *in, char *dst,
+                                                    int32_t dstSize);
+MW_API int32_t set_vca_regional_auto_export_json(vca_regional_auto_export_record *record, const char *body,
+                                                 int32_t bodySize, char *dst, int32_t dstSize);
 /* "personNum" as stored and "personList" with the first personNum tracks,
    at most the 256 the arrays hold (none when it is 0 or negative). */
 MW_API int32_t get_vca_person_point_json(const vca_person_point_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_vca_person_point_json(const vca_person_point_record *in, char *dst, int32_t dstSize);
 /* "peopleList": the counters of the 4 lines. */
 MW_API int32_t get_vca_people_counting_data_json(const vca_people_counting_data_record *in, char *dst,
                                                  int32_t dstSize);
+MW_API int32_t schema_vca_people_counting_data_json(const vca_people_counting_data_record *in, char *dst,
+                                                    int32_t dstSize);
 /* Region states, "peopleNumList" (4), then "peopleDataInfo" with the first
    peopleCount people, at most the 50 the arrays hold (none when 0 or
    negative), each with its 4 stay times.
    "exsitStatus" keeps its historic spelling. */
 MW_API int32_t get_vca_regional_people_data_json(const vca_regional_people_data_record *in, char *dst,
                                                  int32_t dstSize);
+MW_API int32_t schema_vca_regional_people_data_json(const vca_regional_people_data_record *in, char *dst,
+                                                    int32_t dstSize);
 
 /* ===== end vca ===== */
 

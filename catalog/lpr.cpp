@@ -195,86 +195,147 @@ lpr_attr_schedule sample_attr_schedule()
     return s;
 }
 
-const CatalogEntry entries[] = {
-    {"get_lpr_settings_json", "plate recognition settings with the detection polygons and schedule",
-     [](char *dst, int32_t n) {
-         static const lpr_settings_record r = sample_settings();
-         static const lpr_settings_ext_record e = sample_settings_ext();
-         return get_lpr_settings_json(&r, &e, dst, n);
-     }},
-    {"get_lpr_advanced_json", "layout of the plate overlay and of the snapshot caption",
-     [](char *dst, int32_t n) {
-         static const lpr_advanced_record r = sample_advanced();
-         return get_lpr_advanced_json(&r, dst, n);
-     }},
-    {"get_lpr_black_settings_json", "black list switch, direction and weekly schedule",
-     [](char *dst, int32_t n) {
-         static const lpr_list_settings_record r = sample_list(1, "0000-2400");
-         static const lpr_list_direction_record d{0, 0};
-         return get_lpr_black_settings_json(&r, &d, dst, n);
-     }},
-    {"get_lpr_white_settings_json", "white list switch, direction and weekly schedule",
-     [](char *dst, int32_t n) {
-         static const lpr_list_settings_record r = sample_list(1, "0600-2200");
-         static const lpr_list_direction_record d{0, 1};
-         return get_lpr_white_settings_json(&r, &d, dst, n);
-     }},
-    {"get_lpr_visitor_settings_json", "visitor list switch, direction and weekly schedule",
-     [](char *dst, int32_t n) {
-         static const lpr_list_settings_record r = sample_list(0, "0800-1800");
-         static const lpr_list_direction_record d{0, 1};
-         return get_lpr_visitor_settings_json(&r, &d, dst, n);
-     }},
-    {"get_lpr_list_sche_json", "task schedules of the four plate list rules per weekday",
-     [](char *dst, int32_t n) {
-         static const lpr_list_sche_record r = [] {
-             lpr_list_sche_record s{};
-             const char *tasks[4] = {"0000-2400", "0700-1900", "0800-1800", "2200-0600"};
-             for (int rule = 0; rule < 4; ++rule)
-                 for (int d = 0; d < 7; ++d)
-                     put(s.ruleTaskday[rule][d], (rule == 2 && (d == 0 || d == 6)) ? "" : tasks[rule]);
-             return s;
-         }();
-         return get_lpr_list_sche_json(&r, dst, n);
-     }},
-    {"get_lpr_upload_status_json", "state of the plate result upload",
-     [](char *dst, int32_t n) {
-         static const lpr_upload_status_record r{1};
-         return get_lpr_upload_status_json(&r, dst, n);
-     }},
-    {"get_lpr_wildcards_json", "plate-format wildcards of the plate filter",
-     [](char *dst, int32_t n) {
-         static const lpr_wildcards_record r = [] {
-             lpr_wildcards_record w{};
-             w.filter = 1;
-             const char *formats[4] = {"AA99AAA", "A999AAA", "AA9999", "99AAA9"};
-             for (int i = 0; i < 4; ++i) {
-                 w.enable[i] = i < 3 ? 1 : 0;
-                 w.characterCount[i] = static_cast<int32_t>(strlen(formats[i]));
-                 put(w.format[i], formats[i]);
-             }
-             return w;
-         }();
-         return get_lpr_wildcards_json(&r, dst, n);
-     }},
-    {"get_lpr_last_data_json", "the most recent plate reads as numbered keys",
-     [](char *dst, int32_t n) { return get_lpr_last_data_json(3, kLastReads, dst, n); }},
-    {"get_lpr_radar_config_json", "speed radar installation, overlay, alarms and export",
-     [](char *dst, int32_t n) {
-         static const lpr_radar_config_record r = sample_radar();
-         return get_lpr_radar_config_json(&r, dst, n);
-     }},
-    {"get_lpr_radar_test_json", "state of the radar self-test",
-     [](char *dst, int32_t n) { return get_lpr_radar_test_json(1, dst, n); }},
-    {"get_lpr_radar_detect_data_json", "targets the speed radar currently tracks",
-     [](char *dst, int32_t n) { return get_lpr_radar_detect_data_json(2, kRadarTargets, dst, n); }},
-    {"get_lpr_attr_event_json", "plate-attribute alarm rules with their switches and schedules",
-     [](char *dst, int32_t n) {
-         static const lpr_attr_schedule s = sample_attr_schedule();
-         return get_lpr_attr_event_json(kAttrRules, &s, dst, n);
-     },
-     .testsBuffer = false},
+lpr_list_settings_record black_list() { return sample_list(1, "0000-2400"); }
+lpr_list_settings_record white_list() { return sample_list(1, "0600-2200"); }
+lpr_list_settings_record visitor_list() { return sample_list(0, "0800-1800"); }
+lpr_list_direction_record both_ways() { return lpr_list_direction_record{0, 0}; }
+lpr_list_direction_record inbound() { return lpr_list_direction_record{0, 1}; }
+
+lpr_list_sche_record sample_list_sche()
+{
+    lpr_list_sche_record s{};
+    const char *tasks[4] = {"0000-2400", "0700-1900", "0800-1800", "2200-0600"};
+    for (int rule = 0; rule < 4; ++rule)
+        for (int d = 0; d < 7; ++d)
+            put(s.ruleTaskday[rule][d], (rule == 2 && (d == 0 || d == 6)) ? "" : tasks[rule]);
+    return s;
+}
+
+lpr_upload_status_record sample_upload_status() { return lpr_upload_status_record{1}; }
+
+lpr_wildcards_record sample_wildcards()
+{
+    lpr_wildcards_record w{};
+    w.filter = 1;
+    const char *formats[4] = {"AA99AAA", "A999AAA", "AA9999", "99AAA9"};
+    for (int i = 0; i < 4; ++i) {
+        w.enable[i] = i < 3 ? 1 : 0;
+        w.characterCount[i] = static_cast<int32_t>(strlen(formats[i]));
+        put(w.format[i], formats[i]);
+    }
+    return w;
+}
+
+// A report page over the caller's entries and their count: the state holds
+// the entries and the count, the page's argument. The web server passes no
+// more entries than it holds, so a larger count lists the entries held.
+template <typename Entry, size_t N, const Entry (&Sample)[N], int32_t SampleCount,
+          int32_t (*Get)(int32_t, const Entry *, char *, int32_t),
+          int32_t (*Schema)(int32_t, const Entry *, char *, int32_t)>
+struct CountPage {
+    struct State {
+        int32_t count;
+        Entry entries[N];
+    };
+    static State &of(void *state) { return *static_cast<State *>(state); }
+    static int32_t held(void *state) { return of(state).count < static_cast<int32_t>(N) ? of(state).count : N; }
+    static void initial(void *state)
+    {
+        of(state).count = SampleCount;
+        memcpy(of(state).entries, Sample, sizeof Sample);
+    }
+    static int32_t render(void *state, char *dst, int32_t n) { return Get(held(state), of(state).entries, dst, n); }
+    static int32_t schema(void *state, char *dst, int32_t n) { return Schema(held(state), of(state).entries, dst, n); }
+    static int32_t *count(void *state) { return &of(state).count; }
+    static int32_t sample(char *dst, int32_t n) { return Get(SampleCount, Sample, dst, n); }
+    static constexpr PageOps ops{sizeof(State), initial, render, schema, nullptr, count, "count"};
 };
+
+// The radar self-test state: its one value is the page's argument.
+struct RadarTestPage {
+    static void initial(void *state) { *static_cast<int32_t *>(state) = 1; }
+    static int32_t render(void *state, char *dst, int32_t n)
+    {
+        return get_lpr_radar_test_json(*static_cast<int32_t *>(state), dst, n);
+    }
+    static int32_t schema(void *state, char *dst, int32_t n)
+    {
+        return schema_lpr_radar_test_json(*static_cast<int32_t *>(state), dst, n);
+    }
+    static int32_t *value(void *state) { return static_cast<int32_t *>(state); }
+    static int32_t sample(char *dst, int32_t n) { return get_lpr_radar_test_json(1, dst, n); }
+    static constexpr PageOps ops{sizeof(int32_t), initial, render, schema, nullptr, value, "radarTest"};
+};
+
+// The attribute rules: four rules the caller holds in an array, and their
+// schedules. The page prints whatever buffer it is given.
+struct AttrEventPage {
+    struct State {
+        lpr_attr_event_entry rules[4];
+        lpr_attr_schedule schedule;
+    };
+    static State &of(void *state) { return *static_cast<State *>(state); }
+    static void initial(void *state)
+    {
+        memcpy(of(state).rules, kAttrRules, sizeof kAttrRules);
+        of(state).schedule = kept<lpr_attr_schedule, sample_attr_schedule>();
+    }
+    static int32_t render(void *state, char *dst, int32_t n)
+    {
+        return get_lpr_attr_event_json(of(state).rules, &of(state).schedule, dst, n);
+    }
+    static int32_t schema(void *state, char *dst, int32_t n)
+    {
+        return schema_lpr_attr_event_json(of(state).rules, &of(state).schedule, dst, n);
+    }
+    static int32_t set(void *state, const char *body, int32_t size, char *dst, int32_t n)
+    {
+        return set_lpr_attr_event_json(of(state).rules, &of(state).schedule, body, size, dst, n);
+    }
+    static int32_t sample(char *dst, int32_t n)
+    {
+        return get_lpr_attr_event_json(kAttrRules, &kept<lpr_attr_schedule, sample_attr_schedule>(), dst, n);
+    }
+    static constexpr PageOps ops{sizeof(State), initial, render, schema, set};
+};
+
+#define LPR_PAIR_ENTRY(resource, Record, Second, description, sample, secondSample)                            \
+    page_entry<PairPage<Record, kept<Record, sample>, Second, kept<Second, secondSample>, get_##resource##_json, \
+                        schema_##resource##_json, set_##resource##_json>>("get_" #resource "_json", description)
+
+const CatalogEntry entries[] = {
+    LPR_PAIR_ENTRY(lpr_settings, lpr_settings_record, lpr_settings_ext_record,
+                   "plate recognition settings with the detection polygons and schedule", sample_settings,
+                   sample_settings_ext),
+    MW_SETTABLE_ENTRY(lpr_advanced, "layout of the plate overlay and of the snapshot caption",
+                      (kept<lpr_advanced_record, sample_advanced>)),
+    LPR_PAIR_ENTRY(lpr_black_settings, lpr_list_settings_record, lpr_list_direction_record,
+                   "black list switch, direction and weekly schedule", black_list, both_ways),
+    LPR_PAIR_ENTRY(lpr_white_settings, lpr_list_settings_record, lpr_list_direction_record,
+                   "white list switch, direction and weekly schedule", white_list, inbound),
+    LPR_PAIR_ENTRY(lpr_visitor_settings, lpr_list_settings_record, lpr_list_direction_record,
+                   "visitor list switch, direction and weekly schedule", visitor_list, inbound),
+    MW_SETTABLE_ENTRY(lpr_list_sche, "task schedules of the four plate list rules per weekday",
+                      (kept<lpr_list_sche_record, sample_list_sche>)),
+    MW_READ_ONLY_ENTRY(lpr_upload_status, "state of the plate result upload", "live upload state",
+                       (kept<lpr_upload_status_record, sample_upload_status>)),
+    MW_SETTABLE_ENTRY(lpr_wildcards, "plate-format wildcards of the plate filter",
+                      (kept<lpr_wildcards_record, sample_wildcards>)),
+    page_entry<CountPage<lpr_last_data_entry, 3, kLastReads, 3, get_lpr_last_data_json, schema_lpr_last_data_json>>(
+        "get_lpr_last_data_json", "the most recent plate reads as numbered keys", "recent plate reads"),
+    MW_SETTABLE_ENTRY(lpr_radar_config, "speed radar installation, overlay, alarms and export",
+                      (kept<lpr_radar_config_record, sample_radar>)),
+    page_entry<RadarTestPage>("get_lpr_radar_test_json", "state of the radar self-test", "a test's result"),
+    page_entry<CountPage<lpr_radar_detect_entry, 2, kRadarTargets, 2, get_lpr_radar_detect_data_json,
+                         schema_lpr_radar_detect_data_json>>("get_lpr_radar_detect_data_json",
+                                                             "targets the speed radar currently tracks",
+                                                             "live radar targets"),
+    // The attribute rules print whatever buffer they are given.
+    CatalogEntry{"get_lpr_attr_event_json", "plate-attribute alarm rules with their switches and schedules",
+                 AttrEventPage::sample, false, &AttrEventPage::ops},
+};
+
+#undef LPR_PAIR_ENTRY
 
 } // namespace
 

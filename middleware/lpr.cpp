@@ -9,8 +9,6 @@
 #include <cstdlib>
 #include <cstring>
 
-using mw::add;
-
 namespace {
 
 /* The layout record is packed by its odd text widths: the words after the
@@ -41,157 +39,151 @@ int32_t spaces_value(const char (&text)[N])
 
 /* The switch, direction and schedule of a plate list: the black, white and
    visitor lists print alike. */
-int32_t list_settings(const lpr_list_settings_record *in, const lpr_list_direction_record *direction,
-                      char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in, direction](cJSON *root) {
-        add(root, "enable", in->enable);
-        add(root, "detectionDirection", direction->detectionDirection);
-        mw::add_schedule_list(root, in->schedule);
-    });
-}
+constexpr auto describe_list_settings = [](auto &a, auto &r, auto &direction) {
+    a("enable", r.enable);
+    a("detectionDirection", direction.detectionDirection);
+    mw::schedule_list(a, r.schedule);
+};
 
 } // namespace
 
+/* A page over its record and a second block (the settings' extension, a
+   list's direction), with the serializer's name. */
+#define LPR_PAGE_WITH(resource, Record, Second, describe)                                                     \
+    int32_t get_##resource##_json(const Record *in, const Second *second, char *dst, int32_t dstSize)        \
+    {                                                                                                        \
+        return mw::render_page(dst, dstSize, describe, *in, *second);                                        \
+    }                                                                                                        \
+    int32_t schema_##resource##_json(const Record *in, const Second *second, char *dst, int32_t dstSize)     \
+    {                                                                                                        \
+        return mw::schema_page(dst, dstSize, "get_" #resource "_json", false, describe, *in, *second);       \
+    }                                                                                                        \
+    int32_t set_##resource##_json(Record *record, Second *second, const char *body, int32_t bodySize,        \
+                                  char *dst, int32_t dstSize)                                                \
+    {                                                                                                        \
+        return mw::apply_page(describe, record, second, body, bodySize, dst, dstSize);                       \
+    }
+
 /* ---- recognition settings, layout and plate lists ---- */
 
-int32_t get_lpr_settings_json(const lpr_settings_record *in, const lpr_settings_ext_record *ext, char *dst,
-                              int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in, ext](cJSON *root) {
-        add(root, "lprVersion", in->lprVersion);
-        add(root, "lprEnable", in->lprEnable);
-        add(root, "optimalPushMechanism", in->optimalPushMechanism);
-        add(root, "areaList", in->areaList);
-        add(root, "noSupportSerialformatList", in->noSupportSerialformatList);
-        add(root, "curArea", in->curArea);
-        add(root, "country", in->country);
-        add(root, "nightModeEnable", in->nightModeEnable);
-        add(root, "dayToNight", in->dayToNight);
-        add(root, "nightToDay", in->nightToDay);
-        add(root, "nightModeEffectiveTime", in->nightModeEffectiveTime);
-        add(root, "nightModeStartHour", in->nightModeStartHour);
-        add(root, "nightModeStartMinute", in->nightModeStartMinute);
-        add(root, "nightModeStopHour", in->nightModeStopHour);
-        add(root, "nightModeStopMinute", in->nightModeStopMinute);
-        add(root, "nightModeLevel", in->nightModeLevel);
-        add(root, "inputNo", ext->inputNo);
-        add(root, "lprWidth", in->lprWidth);
-        add(root, "lprHeight", in->lprHeight);
-        add(root, "processMode", in->processMode);
-        add(root, "repeatCheckTimeVal", in->repeatCheckTimeVal);
-        add(root, "repeatCheckTimeUnit", in->repeatCheckTimeUnit);
-        add(root, "dayNightModeEnable", in->dayNightModeEnable);
-        add(root, "speedDetect", in->speedDetect);
-        add(root, "cameraHeight", in->cameraHeight);
-        add(root, "lineDistance1", in->lineDistance1);
-        add(root, "lineDistance2", in->lineDistance2);
-        add(root, "linePixel1", in->linePixel1);
-        add(root, "linePixel2", in->linePixel2);
-        add(root, "plateColorEnable", in->plateColorEnable);
-        add(root, "vehicleTypeEnable", in->vehicleTypeEnable);
-        add(root, "vehicleColorEnable", in->vehicleColorEnable);
-        add(root, "roiIdEnable", in->roiIdEnable);
-        add(root, "directionEnable", in->directionEnable);
-        add(root, "regionEnable", in->regionEnable);
-        add(root, "vehicleBrandEnable", ext->vehicleBrandEnable);
-        add(root, "effectivePresetsScene", in->effectivePresetsScene);
-        if (in->lprVersion == 4) {
-            // Engine 4 detects within polygons instead of the full frame.
-            cJSON *list = mw::array(root, "normalPolygonList");
+namespace {
+constexpr auto describe_lpr_settings = [](auto &a, auto &r, auto &ext) {
+    // The engine version decides whether the polygons are shown: read-only.
+    a.derived("lprVersion", r.lprVersion);
+    a("lprEnable", r.lprEnable);
+    a("optimalPushMechanism", r.optimalPushMechanism);
+    a("areaList", r.areaList);
+    a("noSupportSerialformatList", r.noSupportSerialformatList);
+    a("curArea", r.curArea);
+    a("country", r.country);
+    a("nightModeEnable", r.nightModeEnable);
+    a("dayToNight", r.dayToNight);
+    a("nightToDay", r.nightToDay);
+    a("nightModeEffectiveTime", r.nightModeEffectiveTime);
+    a("nightModeStartHour", r.nightModeStartHour);
+    a("nightModeStartMinute", r.nightModeStartMinute);
+    a("nightModeStopHour", r.nightModeStopHour);
+    a("nightModeStopMinute", r.nightModeStopMinute);
+    a("nightModeLevel", r.nightModeLevel);
+    a("inputNo", ext.inputNo);
+    a("lprWidth", r.lprWidth);
+    a("lprHeight", r.lprHeight);
+    a("processMode", r.processMode);
+    a("repeatCheckTimeVal", r.repeatCheckTimeVal);
+    a("repeatCheckTimeUnit", r.repeatCheckTimeUnit);
+    a("dayNightModeEnable", r.dayNightModeEnable);
+    a("speedDetect", r.speedDetect);
+    a("cameraHeight", r.cameraHeight);
+    a("lineDistance1", r.lineDistance1);
+    a("lineDistance2", r.lineDistance2);
+    a("linePixel1", r.linePixel1);
+    a("linePixel2", r.linePixel2);
+    a("plateColorEnable", r.plateColorEnable);
+    a("vehicleTypeEnable", r.vehicleTypeEnable);
+    a("vehicleColorEnable", r.vehicleColorEnable);
+    a("roiIdEnable", r.roiIdEnable);
+    a("directionEnable", r.directionEnable);
+    a("regionEnable", r.regionEnable);
+    a("vehicleBrandEnable", ext.vehicleBrandEnable);
+    a("effectivePresetsScene", r.effectivePresetsScene);
+    // Engine 4 detects within polygons instead of the full frame.
+    a.when(r.lprVersion == 4, [&](auto &o) {
+        o.list("normalPolygonList", "polygonIndex", [&](auto &l) {
             for (int32_t i = 0; i < 4; ++i) {
-                const lpr_polygon_entry &polygon = ext->polygons[i];
-                cJSON *item = mw::append_object(list);
-                add(item, "polygonIndex", i);
-                add(item, "name", polygon.name);
-                mw::add_string(item, "polygonX", mw::polygon_text(polygon.x, 4).text);
-                mw::add_string(item, "polygonY", mw::polygon_text(polygon.y, 4).text);
+                auto &polygon = ext.polygons[i];
+                l.item(i, [&](auto &item) {
+                    item("name", polygon.name);
+                    item.derived("polygonX", mw::polygon_text(polygon.x, 4).text);
+                    item.derived("polygonY", mw::polygon_text(polygon.y, 4).text);
+                });
             }
-        }
-        add(root, "confidence", in->confidence);
-        add(root, "encryptionChip", in->encryptionChip);
-        add(root, "areaType", in->areaType);
-        add(root, "whiteLedExternal", in->whiteLedExternal);
-        add(root, "irLedExternal", in->irLedExternal);
-        add(root, "detectionMode", ext->detectionMode);
-        add(root, "vehicleEnhancement", ext->vehicleEnhancement);
-        mw::add_schedule_list(root, in->schedule);
+        });
     });
-}
+    a("confidence", r.confidence);
+    a("encryptionChip", r.encryptionChip);
+    a("areaType", r.areaType);
+    a("whiteLedExternal", r.whiteLedExternal);
+    a("irLedExternal", r.irLedExternal);
+    a("detectionMode", ext.detectionMode);
+    a("vehicleEnhancement", ext.vehicleEnhancement);
+    mw::schedule_list(a, r.schedule);
+};
+} // namespace
 
-int32_t get_lpr_advanced_json(const lpr_advanced_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "osdSort", in->osdSort);
-        add(root, "osdFontSize", in->osdFontSize);
-        add(root, "osdFontColor", in->osdFontColor);
-        add(root, "osdBkgEnable", in->osdBkgEnable);
-        add(root, "osdBkgColor", in->osdBkgColor);
-        add(root, "osdPosition", in->osdPosition);
-        cJSON *list = mw::array(root, "osdSpaceList");
+LPR_PAGE_WITH(lpr_settings, lpr_settings_record, lpr_settings_ext_record, describe_lpr_settings)
+
+MW_SETTABLE_PAGE(lpr_advanced, [](auto &a, auto &r) {
+    a("osdSort", r.osdSort);
+    a("osdFontSize", r.osdFontSize);
+    a("osdFontColor", r.osdFontColor);
+    a("osdBkgEnable", r.osdBkgEnable);
+    a("osdBkgColor", r.osdBkgColor);
+    a("osdPosition", r.osdPosition);
+    // The field names are the library's and the spaces are read from their
+    // texts as numbers: the list is shown read-only.
+    a.list("osdSpaceList", nullptr, [&](auto &l) {
         for (size_t k = 0; k < 20; ++k) {
             if (strcmp(kPostFields[k], "lineBreak") == 0)
                 continue;
-            cJSON *item = mw::append_object(list);
-            mw::add_string(item, "fileName", kPostFields[k]); // the key's spelling is the page's
-            add(item, "spaces", spaces_value(in->spaces[k]));
+            l.item([&](auto &item) {
+                item.derived_text("fileName", kPostFields[k]); // the key's spelling is the page's
+                item.derived("spaces", spaces_value(r.spaces[k]));
+            });
         }
-        add(root, "osdPositionName", in->osdPositionName);
-        add(root, "osdDeviceId", in->osdDeviceId);
-        add(root, "snapSeparator", in->snapSeparator);
-        add(root, "snapSort", in->snapSort);
-        add(root, "snapPosition", in->snapPosition);
-        add(root, "snapDeviceId", in->snapDeviceId);
-        add(root, "snapshotResolution", in->snapshotResolution);
     });
-}
+    a("osdPositionName", r.osdPositionName);
+    a("osdDeviceId", r.osdDeviceId);
+    a("snapSeparator", r.snapSeparator);
+    a("snapSort", r.snapSort);
+    a("snapPosition", r.snapPosition);
+    a("snapDeviceId", r.snapDeviceId);
+    a("snapshotResolution", r.snapshotResolution);
+})
 
-int32_t get_lpr_black_settings_json(const lpr_list_settings_record *in, const lpr_list_direction_record *direction,
-                                    char *dst, int32_t dstSize)
-{
-    return list_settings(in, direction, dst, dstSize);
-}
+LPR_PAGE_WITH(lpr_black_settings, lpr_list_settings_record, lpr_list_direction_record, describe_list_settings)
+LPR_PAGE_WITH(lpr_white_settings, lpr_list_settings_record, lpr_list_direction_record, describe_list_settings)
+LPR_PAGE_WITH(lpr_visitor_settings, lpr_list_settings_record, lpr_list_direction_record, describe_list_settings)
 
-int32_t get_lpr_white_settings_json(const lpr_list_settings_record *in, const lpr_list_direction_record *direction,
-                                    char *dst, int32_t dstSize)
-{
-    return list_settings(in, direction, dst, dstSize);
-}
+MW_SETTABLE_PAGE(lpr_list_sche, [](auto &a, auto &r) {
+    for (int rule = 0; rule < 4; ++rule)
+        for (int d = 0; d < 7; ++d)
+            a(mw::Key<32>("ruleTaskday_%d_%d", rule, d), r.ruleTaskday[rule][d]);
+})
 
-int32_t get_lpr_visitor_settings_json(const lpr_list_settings_record *in,
-                                      const lpr_list_direction_record *direction, char *dst, int32_t dstSize)
-{
-    return list_settings(in, direction, dst, dstSize);
-}
+MW_READ_ONLY_PAGE(lpr_upload_status, [](auto &a, auto &r) { a("lprUploadStatus", r.lprUploadStatus); })
 
-int32_t get_lpr_list_sche_json(const lpr_list_sche_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        for (int r = 0; r < 4; ++r)
-            for (int d = 0; d < 7; ++d)
-                add(root, mw::Key<32>("ruleTaskday_%d_%d", r, d), in->ruleTaskday[r][d]);
-    });
-}
-
-int32_t get_lpr_upload_status_json(const lpr_upload_status_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) { add(root, "lprUploadStatus", in->lprUploadStatus); });
-}
-
-int32_t get_lpr_wildcards_json(const lpr_wildcards_record *in, char *dst, int32_t dstSize)
-{
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "filter", in->filter);
-        cJSON *list = mw::array(root, "filterList");
+MW_SETTABLE_PAGE(lpr_wildcards, [](auto &a, auto &r) {
+    a("filter", r.filter);
+    a.list("filterList", "index", [&](auto &l) {
         for (int32_t i = 0; i < 30; ++i) {
-            cJSON *item = mw::append_object(list);
-            add(item, "index", i);
-            add(item, "enable", in->enable[i]);
-            add(item, "characterCount", in->characterCount[i]);
-            add(item, "format", in->format[i]);
+            l.item(i, [&](auto &item) {
+                item("enable", r.enable[i]);
+                item("characterCount", r.characterCount[i]);
+                item("format", r.format[i]);
+            });
         }
     });
-}
+})
 
 /* ---- recent plates, speed radar and plate-attribute rules ---- */
 
@@ -208,115 +200,186 @@ static_assert(offsetof(lpr_radar_config_record, triggerDistance) ==
                   offsetof(lpr_radar_config_record, triggerLine) + sizeof(int32_t),
               "triggerDistance follows triggerLine");
 
-int32_t lane_region_word(const lpr_radar_config_record *in, size_t lane)
+int32_t lane_region_word(const lpr_radar_config_record &r, size_t lane)
 {
     int32_t word;
-    memcpy(&word, reinterpret_cast<const unsigned char *>(in) + kLaneRegionAt + lane * sizeof word, sizeof word);
+    memcpy(&word, reinterpret_cast<const unsigned char *>(&r) + kLaneRegionAt + lane * sizeof word, sizeof word);
     return word;
 }
+
+/* The recent plate reads: the caller's `count` entries as numbered keys. */
+auto describe_last_data(int32_t count, const lpr_last_data_entry *entries)
+{
+    return [count, entries](auto &a) {
+        for (int32_t i = 0; i < count; ++i) {
+            const lpr_last_data_entry &e = entries[i];
+            a.derived(mw::Key<32>("time_%d", i), e.time);
+            a.derived(mw::Key<32>("plate_%d", i), e.plate);
+            a.derived(mw::Key<32>("path_%d", i), e.path);
+            a.derived(mw::Key<32>("region_%d", i), e.region);
+            a.derived(mw::Key<32>("direction_%d", i), e.direction);
+            a.derived(mw::Key<32>("roiId_%d", i), e.roiId);
+            a.derived(mw::Key<32>("plateLeft_%d", i), e.plateLeft);
+            a.derived(mw::Key<32>("plateTop_%d", i), e.plateTop);
+            a.derived(mw::Key<32>("plateRight_%d", i), e.plateRight);
+            a.derived(mw::Key<32>("plateBottom_%d", i), e.plateBottom);
+        }
+    };
+}
+
+auto describe_radar_test(int32_t radarTest)
+{
+    return [radarTest](auto &a) { a.derived("radarTest", radarTest); };
+}
+
+/* The targets the radar tracks now: the caller's `count` entries. */
+auto describe_radar_detect_data(int32_t count, const lpr_radar_detect_entry *entries)
+{
+    return [count, entries](auto &a) {
+        a.list("radarDetectData", nullptr, [&](auto &l) {
+            for (int32_t i = 0; i < count; ++i) {
+                const lpr_radar_detect_entry &e = entries[i];
+                l.item([&](auto &target) {
+                    target.derived("id", e.id);
+                    target.derived("speed", e.speed);
+                    target.derived("xpos", e.xpos);
+                    target.derived("distance", e.distance);
+                    target.derived("direction", e.direction);
+                });
+            }
+        });
+    };
+}
+
+/* The four attribute rules and their weekly schedules. */
+constexpr auto describe_attr_event = [](auto &a, auto &rules, auto &schedule) {
+    a.list("enableList", "index", [&](auto &l) {
+        for (int32_t k = 0; k < 4; ++k)
+            l.item(k, [&](auto &item) { item("enable", rules[k].enable); });
+    });
+    a.list("alarmTriggerList", "index", [&](auto &l) {
+        for (int32_t k = 0; k < 4; ++k) {
+            l.item(k, [&](auto &item) {
+                item("noPlate", rules[k].noPlate);
+                item("plateColor", rules[k].plateColor);
+                item("vehicleType", rules[k].vehicleType);
+                item("vehicleColor", rules[k].vehicleColor);
+                item("detectRegion", rules[k].detectRegion);
+                item("direction", rules[k].direction);
+            });
+        }
+    });
+    a.list("scheduleList", "index", [&](auto &l) {
+        for (int32_t k = 0; k < 4; ++k) {
+            l.item(k, [&](auto &item) {
+                item.list("LprAttrList", "scheduleIndex", [&](auto &days) { // capital L, as the page reads it
+                    for (int32_t d = 0; d < 7; ++d)
+                        days.item(d, [&](auto &day) { day("schedule", schedule.schedule[k][d]); });
+                });
+            });
+        }
+    });
+};
+
+/* The four rules the caller's pointer holds, as one array. */
+using AttrRules = lpr_attr_event_entry[4];
 
 } // namespace
 
 int32_t get_lpr_last_data_json(int32_t count, const lpr_last_data_entry *entries, char *dst, int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [count, entries](cJSON *root) {
-        for (int32_t i = 0; i < count; ++i) {
-            const lpr_last_data_entry &e = entries[i];
-            add(root, mw::Key<32>("time_%d", i), e.time);
-            add(root, mw::Key<32>("plate_%d", i), e.plate);
-            add(root, mw::Key<32>("path_%d", i), e.path);
-            add(root, mw::Key<32>("region_%d", i), e.region);
-            add(root, mw::Key<32>("direction_%d", i), e.direction);
-            add(root, mw::Key<32>("roiId_%d", i), e.roiId);
-            add(root, mw::Key<32>("plateLeft_%d", i), e.plateLeft);
-            add(root, mw::Key<32>("plateTop_%d", i), e.plateTop);
-            add(root, mw::Key<32>("plateRight_%d", i), e.plateRight);
-            add(root, mw::Key<32>("plateBottom_%d", i), e.plateBottom);
-        }
-    });
+    return mw::render_page(dst, dstSize, describe_last_data(count, entries));
 }
 
-int32_t get_lpr_radar_config_json(const lpr_radar_config_record *in, char *dst, int32_t dstSize)
+int32_t schema_lpr_last_data_json(int32_t count, const lpr_last_data_entry *entries, char *dst, int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [in](cJSON *root) {
-        add(root, "enable", in->enable);
-        add(root, "height", in->height);
-        add(root, "angle", in->angle);
-        add(root, "angleCom", in->angleCom);
-        add(root, "lanesNum", in->lanesNum);
-        add(root, "laneWidth", in->laneWidth);
-        add(root, "installLocation", in->installLocation);
-        add(root, "speedUnit", in->speedUnit);
-        cJSON *regions = mw::array(root, "laneMatchRoiList");
-        for (int32_t l = 0; l < in->lanesNum && static_cast<size_t>(l) < kLaneWords; ++l) {
-            cJSON *lane = mw::append_object(regions);
-            add(lane, "index", l);
-            add(lane, "region", lane_region_word(in, static_cast<size_t>(l)));
-        }
-        cJSON *directions = mw::array(root, "laneDirection");
-        for (int32_t l = 0; l < in->lanesNum && l <= 3; ++l) {
-            cJSON *lane = mw::append_object(directions);
-            add(lane, "index", l);
-            add(lane, "direction", in->laneDirection[l]);
-        }
-        add(root, "triggerLine", in->triggerLine);
-        add(root, "triggerDistance", in->triggerDistance);
-        add(root, "showSpeedEnable", in->showSpeedEnable);
-        add(root, "showDirectionEnable", in->showDirectionEnable);
-        add(root, "showDistanceEnable", in->showDistanceEnable);
-        add(root, "showAzimuthEnable", in->showAzimuthEnable);
-        add(root, "showCountingEnable", in->showCountingEnable);
-        add(root, "showLicensePlateEnable", in->showLicensePlateEnable);
-        add(root, "showDetectionRegionEnable", in->showDetectionRegionEnable);
-        add(root, "fontSize", in->fontSize);
-        add(root, "fontColor", in->fontColor);
-        add(root, "osdAutoReset", in->osdAutoReset);
-        add(root, "osdResetWeekday", in->osdResetWeekday);
-        add(root, "osdResetHour", in->osdResetHour);
-        add(root, "osdResetMin", in->osdResetMin);
-        add(root, "osdResetSec", in->osdResetSec);
-        add(root, "maxSpeedAlarmEnable", in->maxSpeedAlarmEnable);
-        add(root, "minSpeedAlarmEnable", in->minSpeedAlarmEnable);
-        add(root, "maxSpeedThreshold", in->maxSpeedThreshold);
-        add(root, "minSpeedThreshold", in->minSpeedThreshold);
-        add(root, "drivingDirAlarmEnable", in->drivingDirAlarmEnable);
-        add(root, "drivingDir", in->drivingDir);
-        add(root, "countAlarm", in->countAlarm);
-        add(root, "countThreshold", in->countThreshold);
-        add(root, "radarLevel", in->radarLevel);
-        add(root, "debug", in->debug);
-        add(root, "upgrade", in->upgrade);
-        add(root, "exportEnable", in->exportEnable);
-        add(root, "exportMethod", in->exportMethod);
-        add(root, "exportWeekday", in->exportWeekday);
-        add(root, "exportResetHour", in->exportResetHour);
-        add(root, "exportResetMin", in->exportResetMin);
-        add(root, "exportResetSec", in->exportResetSec);
-        add(root, "exportTimeRange", in->exportTimeRange);
-        mw::add_schedule_list(root, in->schedule);
-    });
+    return mw::schema_page(dst, dstSize, "get_lpr_last_data_json", true, describe_last_data(count, entries));
 }
+
+MW_SETTABLE_PAGE(lpr_radar_config, [](auto &a, auto &r) {
+    a("enable", r.enable);
+    a("height", r.height);
+    a("angle", r.angle);
+    a("angleCom", r.angleCom);
+    // The lane count decides how many lanes are listed: read-only.
+    a.derived("lanesNum", r.lanesNum);
+    a("laneWidth", r.laneWidth);
+    a("installLocation", r.installLocation);
+    a("speedUnit", r.speedUnit);
+    a.list("laneMatchRoiList", "index", [&](auto &l) {
+        for (int32_t lane = 0; lane < r.lanesNum && static_cast<size_t>(lane) < kLaneWords; ++lane) {
+            l.item(lane, [&](auto &item) {
+                // Lanes past the fourth show the words after laneRegion,
+                // which the page shows again under their own keys.
+                if (lane < 4)
+                    item("region", r.laneRegion[lane]);
+                else
+                    item.derived("region", lane_region_word(r, static_cast<size_t>(lane)));
+            });
+        }
+    });
+    a.list("laneDirection", "index", [&](auto &l) {
+        for (int32_t lane = 0; lane < r.lanesNum && lane <= 3; ++lane)
+            l.item(lane, [&](auto &item) { item("direction", r.laneDirection[lane]); });
+    });
+    a("triggerLine", r.triggerLine);
+    a("triggerDistance", r.triggerDistance);
+    a("showSpeedEnable", r.showSpeedEnable);
+    a("showDirectionEnable", r.showDirectionEnable);
+    a("showDistanceEnable", r.showDistanceEnable);
+    a("showAzimuthEnable", r.showAzimuthEnable);
+    a("showCountingEnable", r.showCountingEnable);
+    a("showLicensePlateEnable", r.showLicensePlateEnable);
+    a("showDetectionRegionEnable", r.showDetectionRegionEnable);
+    a("fontSize", r.fontSize);
+    a("fontColor", r.fontColor);
+    a("osdAutoReset", r.osdAutoReset);
+    a("osdResetWeekday", r.osdResetWeekday);
+    a("osdResetHour", r.osdResetHour);
+    a("osdResetMin", r.osdResetMin);
+    a("osdResetSec", r.osdResetSec);
+    a("maxSpeedAlarmEnable", r.maxSpeedAlarmEnable);
+    a("minSpeedAlarmEnable", r.minSpeedAlarmEnable);
+    a("maxSpeedThreshold", r.maxSpeedThreshold);
+    a("minSpeedThreshold", r.minSpeedThreshold);
+    a("drivingDirAlarmEnable", r.drivingDirAlarmEnable);
+    a("drivingDir", r.drivingDir);
+    a("countAlarm", r.countAlarm);
+    a("countThreshold", r.countThreshold);
+    a("radarLevel", r.radarLevel);
+    a("debug", r.debug);
+    a("upgrade", r.upgrade);
+    a("exportEnable", r.exportEnable);
+    a("exportMethod", r.exportMethod);
+    a("exportWeekday", r.exportWeekday);
+    a("exportResetHour", r.exportResetHour);
+    a("exportResetMin", r.exportResetMin);
+    a("exportResetSec", r.exportResetSec);
+    a("exportTimeRange", r.exportTimeRange);
+    mw::schedule_list(a, r.schedule);
+})
 
 int32_t get_lpr_radar_test_json(int32_t radarTest, char *dst, int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [radarTest](cJSON *root) { add(root, "radarTest", radarTest); });
+    return mw::render_page(dst, dstSize, describe_radar_test(radarTest));
+}
+
+int32_t schema_lpr_radar_test_json(int32_t radarTest, char *dst, int32_t dstSize)
+{
+    return mw::schema_page(dst, dstSize, "get_lpr_radar_test_json", true, describe_radar_test(radarTest));
 }
 
 int32_t get_lpr_radar_detect_data_json(int32_t count, const lpr_radar_detect_entry *entries, char *dst,
                                        int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [count, entries](cJSON *root) {
-        cJSON *list = mw::array(root, "radarDetectData");
-        for (int32_t i = 0; i < count; ++i) {
-            const lpr_radar_detect_entry &e = entries[i];
-            cJSON *target = mw::append_object(list);
-            add(target, "id", e.id);
-            add(target, "speed", e.speed);
-            add(target, "xpos", e.xpos);
-            add(target, "distance", e.distance);
-            add(target, "direction", e.direction);
-        }
-    });
+    return mw::render_page(dst, dstSize, describe_radar_detect_data(count, entries));
+}
+
+int32_t schema_lpr_radar_detect_data_json(int32_t count, const lpr_radar_detect_entry *entries, char *dst,
+                                          int32_t dstSize)
+{
+    return mw::schema_page(dst, dstSize, "get_lpr_radar_detect_data_json", true,
+                           describe_radar_detect_data(count, entries));
 }
 
 /* Never tests its buffer: it always builds and prints, and the bounded copy
@@ -324,34 +387,20 @@ int32_t get_lpr_radar_detect_data_json(int32_t count, const lpr_radar_detect_ent
 int32_t get_lpr_attr_event_json(const lpr_attr_event_entry *rules, const lpr_attr_schedule *schedule, char *dst,
                                 int32_t dstSize)
 {
-    return mw::document_without_buffer_test(dst, dstSize, [rules, schedule](cJSON *root) {
-        cJSON *enables = mw::array(root, "enableList");
-        for (int32_t r = 0; r < 4; ++r) {
-            cJSON *item = mw::append_object(enables);
-            add(item, "index", r);
-            add(item, "enable", rules[r].enable);
-        }
-        cJSON *triggers = mw::array(root, "alarmTriggerList");
-        for (int32_t r = 0; r < 4; ++r) {
-            cJSON *item = mw::append_object(triggers);
-            add(item, "index", r);
-            add(item, "noPlate", rules[r].noPlate);
-            add(item, "plateColor", rules[r].plateColor);
-            add(item, "vehicleType", rules[r].vehicleType);
-            add(item, "vehicleColor", rules[r].vehicleColor);
-            add(item, "detectRegion", rules[r].detectRegion);
-            add(item, "direction", rules[r].direction);
-        }
-        cJSON *schedules = mw::array(root, "scheduleList");
-        for (int32_t r = 0; r < 4; ++r) {
-            cJSON *item = mw::append_object(schedules);
-            add(item, "index", r);
-            cJSON *days = mw::array(item, "LprAttrList"); // capital L, as the page reads it
-            for (int32_t d = 0; d < 7; ++d) {
-                cJSON *day = mw::append_object(days);
-                add(day, "scheduleIndex", d);
-                add(day, "schedule", schedule->schedule[r][d]);
-            }
-        }
-    });
+    return mw::render_page_unchecked(dst, dstSize, describe_attr_event, *reinterpret_cast<const AttrRules *>(rules),
+                                     *schedule);
+}
+
+int32_t schema_lpr_attr_event_json(const lpr_attr_event_entry *rules, const lpr_attr_schedule *schedule, char *dst,
+                                   int32_t dstSize)
+{
+    return mw::schema_page(dst, dstSize, "get_lpr_attr_event_json", false, describe_attr_event,
+                           *reinterpret_cast<const AttrRules *>(rules), *schedule);
+}
+
+int32_t set_lpr_attr_event_json(lpr_attr_event_entry *rules, lpr_attr_schedule *schedule, const char *body,
+                                int32_t bodySize, char *dst, int32_t dstSize)
+{
+    return mw::apply_page(describe_attr_event, reinterpret_cast<AttrRules *>(rules), schedule, body, bodySize, dst,
+                          dstSize);
 }

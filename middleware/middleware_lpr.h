@@ -164,27 +164,53 @@ typedef struct lpr_wildcards_record {
    is exactly 4. */
 MW_API int32_t get_lpr_settings_json(const lpr_settings_record *in, const lpr_settings_ext_record *ext,
                                      char *dst, int32_t dstSize);
+MW_API int32_t schema_lpr_settings_json(const lpr_settings_record *in, const lpr_settings_ext_record *ext, char *dst,
+                                        int32_t dstSize);
+MW_API int32_t set_lpr_settings_json(lpr_settings_record *record, lpr_settings_ext_record *ext, const char *body,
+                                     int32_t bodySize, char *dst, int32_t dstSize);
 /* The overlay and caption layout. "osdSpaceList" lists the nineteen report
    fields other than the line-break marker, each with its spaces text read as
    a number (leading blanks, a sign, digits; 0 when there are none). A spaces
    text is read within its ten bytes even when it lacks its NUL. */
 MW_API int32_t get_lpr_advanced_json(const lpr_advanced_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_lpr_advanced_json(const lpr_advanced_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_lpr_advanced_json(lpr_advanced_record *record, const char *body, int32_t bodySize, char *dst,
+                                     int32_t dstSize);
 /* A plate list's switch, direction and seven-day "scheduleList"; the three
    lists print alike. */
 MW_API int32_t get_lpr_black_settings_json(const lpr_list_settings_record *in,
                                            const lpr_list_direction_record *direction, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_lpr_black_settings_json(const lpr_list_settings_record *in,
+                                              const lpr_list_direction_record *direction, char *dst, int32_t dstSize);
+MW_API int32_t set_lpr_black_settings_json(lpr_list_settings_record *record, lpr_list_direction_record *direction,
+                                           const char *body, int32_t bodySize, char *dst, int32_t dstSize);
 MW_API int32_t get_lpr_white_settings_json(const lpr_list_settings_record *in,
                                            const lpr_list_direction_record *direction, char *dst,
                                            int32_t dstSize);
+MW_API int32_t schema_lpr_white_settings_json(const lpr_list_settings_record *in,
+                                              const lpr_list_direction_record *direction, char *dst, int32_t dstSize);
+MW_API int32_t set_lpr_white_settings_json(lpr_list_settings_record *record, lpr_list_direction_record *direction,
+                                           const char *body, int32_t bodySize, char *dst, int32_t dstSize);
 MW_API int32_t get_lpr_visitor_settings_json(const lpr_list_settings_record *in,
                                              const lpr_list_direction_record *direction, char *dst,
                                              int32_t dstSize);
+MW_API int32_t schema_lpr_visitor_settings_json(const lpr_list_settings_record *in,
+                                                const lpr_list_direction_record *direction, char *dst, int32_t dstSize);
+MW_API int32_t set_lpr_visitor_settings_json(lpr_list_settings_record *record, lpr_list_direction_record *direction,
+                                             const char *body, int32_t bodySize, char *dst, int32_t dstSize);
 /* 28 flat keys "ruleTaskday_<rule>_<day>", rule 0 day 0 first. */
 MW_API int32_t get_lpr_list_sche_json(const lpr_list_sche_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_lpr_list_sche_json(const lpr_list_sche_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_lpr_list_sche_json(lpr_list_sche_record *record, const char *body, int32_t bodySize, char *dst,
+                                      int32_t dstSize);
 MW_API int32_t get_lpr_upload_status_json(const lpr_upload_status_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_lpr_upload_status_json(const lpr_upload_status_record *in, char *dst, int32_t dstSize);
 /* "filter" and all thirty wildcard slots, enabled or not, index from 0. */
 MW_API int32_t get_lpr_wildcards_json(const lpr_wildcards_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_lpr_wildcards_json(const lpr_wildcards_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_lpr_wildcards_json(lpr_wildcards_record *record, const char *body, int32_t bodySize, char *dst,
+                                      int32_t dstSize);
 
 /* ---- recent plates, speed radar and plate-attribute rules ---- */
 
@@ -296,23 +322,34 @@ typedef struct lpr_attr_schedule {
    gives an empty object; `entries` must hold `count` reads. */
 MW_API int32_t get_lpr_last_data_json(int32_t count, const lpr_last_data_entry *entries, char *dst,
                                       int32_t dstSize);
+MW_API int32_t schema_lpr_last_data_json(int32_t count, const lpr_last_data_entry *entries, char *dst, int32_t dstSize);
 /* The radar configuration. "laneMatchRoiList" holds lanesNum lanes, not
    capped at four: lanes 4 and up read the words that follow laneRegion in the
    record. Our choice: the list stops at the record's last whole word, so a
    lanesNum beyond the record never reads past it. "laneDirection" holds at
    most four lanes. */
 MW_API int32_t get_lpr_radar_config_json(const lpr_radar_config_record *in, char *dst, int32_t dstSize);
+MW_API int32_t schema_lpr_radar_config_json(const lpr_radar_config_record *in, char *dst, int32_t dstSize);
+MW_API int32_t set_lpr_radar_config_json(lpr_radar_config_record *record, const char *body, int32_t bodySize, char *dst,
+                                         int32_t dstSize);
 /* {"radarTest": radarTest} - the radar self-test state. */
 MW_API int32_t get_lpr_radar_test_json(int32_t radarTest, char *dst, int32_t dstSize);
+MW_API int32_t schema_lpr_radar_test_json(int32_t radarTest, char *dst, int32_t dstSize);
 /* "radarDetectData": the first `count` targets (none for a count of 0 or
    below); `entries` must hold `count` targets. */
 MW_API int32_t get_lpr_radar_detect_data_json(int32_t count, const lpr_radar_detect_entry *entries, char *dst,
                                               int32_t dstSize);
+MW_API int32_t schema_lpr_radar_detect_data_json(int32_t count, const lpr_radar_detect_entry *entries, char *dst,
+                                                 int32_t dstSize);
 /* The four attribute rules (`rules` holds four) with their switches, triggers
    and day texts. This one does not test its buffer: a NULL buffer or a size
    below 1 copies nothing and still returns 0; only a failed print gives -1. */
 MW_API int32_t get_lpr_attr_event_json(const lpr_attr_event_entry *rules, const lpr_attr_schedule *schedule,
                                        char *dst, int32_t dstSize);
+MW_API int32_t schema_lpr_attr_event_json(const lpr_attr_event_entry *rules, const lpr_attr_schedule *schedule,
+                                          char *dst, int32_t dstSize);
+MW_API int32_t set_lpr_attr_event_json(lpr_attr_event_entry *rules, lpr_attr_schedule *schedule, const char *body,
+                                       int32_t bodySize, char *dst, int32_t dstSize);
 
 /* ===== end lpr ===== */
 

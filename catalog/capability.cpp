@@ -1,5 +1,7 @@
 #include "catalog.h"
 
+#include <algorithm>
+#include <memory>
 #include <vector>
 
 namespace {
@@ -119,31 +121,89 @@ cap_ptz_record sample_ptz()
     return r;
 }
 
+// A capability page's state: the record (or the entry list of the general
+// document) and the entry count the web server passes beside it, the page's
+// argument.
+template <typename Record>
+struct CapabilityState {
+    int32_t count;
+    Record record;
+};
+
+struct CommonEntries {
+    cap_entry entries[11];
+};
+
+const CapabilityState<CommonEntries> &common_state()
+{
+    static const CapabilityState<CommonEntries> state = [] {
+        CapabilityState<CommonEntries> c{};
+        const std::vector<cap_entry> e = sample_common();
+        c.count = static_cast<int32_t>(e.size());
+        std::copy(e.begin(), e.end(), c.record.entries);
+        return c;
+    }();
+    return state;
+}
+
+template <typename Record, Record (*Make)(), int32_t Count>
+const CapabilityState<Record> &record_state()
+{
+    static const CapabilityState<Record> state{Count, Make()};
+    return state;
+}
+
+// The serializer and the schema function over a state: the general document
+// takes the entries' array, the others their record.
+template <typename Record>
+Record *data_of(CapabilityState<Record> &s) { return &s.record; }
+cap_entry *data_of(CapabilityState<CommonEntries> &s) { return s.record.entries; }
+
+// The count passed beside it: the records bound their own entry lists; the
+// general document's entries are the caller's array, so the web server passes
+// no more than it holds.
+template <typename Record>
+int32_t count_of(const CapabilityState<Record> &s) { return s.count; }
+int32_t count_of(const CapabilityState<CommonEntries> &s)
+{
+    constexpr int32_t held = static_cast<int32_t>(sizeof s.record.entries / sizeof s.record.entries[0]);
+    return s.count < held ? s.count : held;
+}
+
+// The serializers split the option lists in place, so every call works on a
+// copy of the state and the state itself is never changed.
+template <typename Record, const CapabilityState<Record> &(*Sample)(), typename Data,
+          int32_t (*Get)(Data *, int32_t, char *, int32_t), int32_t (*Schema)(Data *, int32_t, char *, int32_t)>
+struct CapabilityPage {
+    using State = CapabilityState<Record>;
+    static void initial(void *state) { memcpy(state, &Sample(), sizeof(State)); }
+    template <int32_t (*Call)(Data *, int32_t, char *, int32_t)>
+    static int32_t on_copy(const void *state, char *dst, int32_t n)
+    {
+        std::unique_ptr<State> copy(new State(*static_cast<const State *>(state)));
+        return Call(data_of(*copy), count_of(*copy), dst, n);
+    }
+    static int32_t render(void *state, char *dst, int32_t n) { return on_copy<Get>(state, dst, n); }
+    static int32_t schema(void *state, char *dst, int32_t n) { return on_copy<Schema>(state, dst, n); }
+    static int32_t *count(void *state) { return &static_cast<State *>(state)->count; }
+    static int32_t sample(char *dst, int32_t n) { return on_copy<Get>(&Sample(), dst, n); }
+    static constexpr PageOps ops{sizeof(State), initial, render, schema, nullptr, count, "count"};
+};
+
+const char *const kOffered = "what the camera offers";
+
 const CatalogEntry entries[] = {
-    {"get_cap_common_json", "general capabilities, grouped into nested sections",
-     [](char *dst, int32_t n) {
-         static const std::vector<cap_entry> sample = sample_common();
-         std::vector<cap_entry> e = sample;
-         return get_cap_common_json(e.data(), static_cast<int32_t>(e.size()), dst, n);
-     }},
-    {"get_cap_general_video_json", "encoder capabilities: codecs, resolutions, bit rates per stream",
-     [](char *dst, int32_t n) {
-         static const cap_general_video_record sample = sample_video();
-         std::vector<cap_general_video_record> r(1, sample);
-         return get_cap_general_video_json(r.data(), 5, dst, n);
-     }},
-    {"get_cap_audio_json", "audio capabilities: encoders, sample rates and bit rates",
-     [](char *dst, int32_t n) {
-         static const cap_audio_record sample = sample_audio();
-         std::vector<cap_audio_record> r(1, sample);
-         return get_cap_audio_json(r.data(), 4, dst, n);
-     }},
-    {"get_cap_ptz_json", "PTZ capabilities and the dome's reserved preset numbers",
-     [](char *dst, int32_t n) {
-         static const cap_ptz_record sample = sample_ptz();
-         std::vector<cap_ptz_record> r(1, sample);
-         return get_cap_ptz_json(r.data(), 4, dst, n);
-     }},
+    page_entry<CapabilityPage<CommonEntries, common_state, cap_entry, get_cap_common_json, schema_cap_common_json>>(
+        "get_cap_common_json", "general capabilities, grouped into nested sections", kOffered),
+    page_entry<CapabilityPage<cap_general_video_record, record_state<cap_general_video_record, sample_video, 5>,
+                              cap_general_video_record, get_cap_general_video_json, schema_cap_general_video_json>>(
+        "get_cap_general_video_json", "encoder capabilities: codecs, resolutions, bit rates per stream", kOffered),
+    page_entry<CapabilityPage<cap_audio_record, record_state<cap_audio_record, sample_audio, 4>, cap_audio_record,
+                              get_cap_audio_json, schema_cap_audio_json>>(
+        "get_cap_audio_json", "audio capabilities: encoders, sample rates and bit rates", kOffered),
+    page_entry<CapabilityPage<cap_ptz_record, record_state<cap_ptz_record, sample_ptz, 4>, cap_ptz_record,
+                              get_cap_ptz_json, schema_cap_ptz_json>>(
+        "get_cap_ptz_json", "PTZ capabilities and the dome's reserved preset numbers", kOffered),
 };
 
 } // namespace

@@ -7,8 +7,6 @@
 
 #include <cstring>
 
-using mw::add;
-
 namespace {
 
 /* Labels: 31 characters in the video, audio and PTZ documents, 63 in the
@@ -80,88 +78,170 @@ int32_t cap_parse_tagged_token(char *token, size_t length, int32_t *outValue, ch
     return 1;
 }
 
-/* One capability entry under `parent`: {"range": range} when there is a
-   range, else one member per option, label: number, in list order (a
-   repeated label is kept twice). The option list is tokenized in place: a
-   NUL goes over the ';' that ends each token and over each token's '>'. */
-void render_entry(cJSON *parent, cap_entry &e, int32_t labelSize)
+/* One capability entry: {"range": range} when there is a range, else one
+   member per option, label: number, in list order (a repeated label is kept
+   twice). The option list is tokenized in place: a NUL goes over the ';'
+   that ends each token and over each token's '>'. The whole document is
+   read-only, so every key is shown as the camera offers it. */
+template <typename A>
+void capability_entry(A &a, cap_entry &e, int32_t labelSize)
 {
     char name[sizeof e.name + 1];
     copy_field(name, sizeof name, e.name, sizeof e.name);
-    cJSON *o = mw::object(parent, name);
-    if (e.range[0] != '\0') {
-        add(o, "range", e.range);
-        return;
-    }
-    char *p = e.values;
-    char *end = static_cast<char *>(memchr(e.values, '\0', sizeof e.values));
-    if (end == nullptr)
-        end = e.values + sizeof e.values; // a list filling its field ends there
-    while (p < end) {
-        while (p < end && *p == ';')
-            ++p; // a run of separators counts as one
-        if (p == end)
-            break;
-        char *stop = static_cast<char *>(memchr(p, ';', static_cast<size_t>(end - p)));
-        if (stop == nullptr)
-            stop = end;
-        else
-            *stop = '\0';
-        char label[kLongLabel];
-        memset(label, 0, sizeof label);
-        int32_t value = 0;
-        if (cap_parse_tagged_token(p, static_cast<size_t>(stop - p), &value, label, labelSize))
-            add(o, label, value);
-        p = stop < end ? stop + 1 : end;
-    }
+    a.object(mw::Name::copied(name), [&](auto &o) {
+        if (e.range[0] != '\0') {
+            o.derived("range", e.range);
+            return;
+        }
+        char *p = e.values;
+        char *end = static_cast<char *>(memchr(e.values, '\0', sizeof e.values));
+        if (end == nullptr)
+            end = e.values + sizeof e.values; // a list filling its field ends there
+        while (p < end) {
+            while (p < end && *p == ';')
+                ++p; // a run of separators counts as one
+            if (p == end)
+                break;
+            char *stop = static_cast<char *>(memchr(p, ';', static_cast<size_t>(end - p)));
+            if (stop == nullptr)
+                stop = end;
+            else
+                *stop = '\0';
+            char label[kLongLabel];
+            memset(label, 0, sizeof label);
+            int32_t value = 0;
+            if (cap_parse_tagged_token(p, static_cast<size_t>(stop - p), &value, label, labelSize))
+                o.derived(mw::Name::copied(label), value);
+            p = stop < end ? stop + 1 : end;
+        }
+    });
 }
 
-void render_entries(cJSON *parent, cap_entry *entries, int32_t count, int32_t labelSize)
+template <typename A>
+void capability_entries(A &a, cap_entry *entries, int32_t count, int32_t labelSize)
 {
     for (int32_t k = 0; k < count; ++k)
-        render_entry(parent, entries[k], labelSize);
+        capability_entry(a, entries[k], labelSize);
 }
 
 /* ---- general document: sections ---- */
 
 constexpr int32_t kSectionSlots = 10;
 
-struct cap_group_slot {
+/* A section of the general document: its name, the section it hangs under
+   (-1: the root) and the entry that opened it. */
+struct cap_section {
     char name[128];
-    cJSON *object;
+    int32_t parent;
+    int32_t openedAt;
 };
 
-/* The object of the first slot that holds one under exactly this name
-   (case-sensitive); slots with an empty name never match. */
-cJSON *cap_find_group(const cap_group_slot *slots, int32_t slotCount, const char *name)
+/* The section index under exactly this name (case-sensitive), or -1; slots
+   with an empty name never match. */
+int32_t cap_find_section(const cap_section *sections, int32_t used, const char *name)
 {
-    if (slots == nullptr || name == nullptr || slotCount < 1)
-        return nullptr;
-    for (int32_t i = 0; i < slotCount; ++i)
-        if (slots[i].object != nullptr && slots[i].name[0] != '\0' && strcmp(slots[i].name, name) == 0)
-            return slots[i].object;
-    return nullptr;
+    for (int32_t i = 0; i < used; ++i)
+        if (sections[i].name[0] != '\0' && strcmp(sections[i].name, name) == 0)
+            return i;
+    return -1;
+}
+
+/* The sections as the entries open them: at most ten, each on the first
+   entry that names it and whose parent section is open by then. */
+struct cap_sections {
+    cap_section at[kSectionSlots];
+    int32_t used;
+};
+
+void group_name(char (&out)[128], const cap_group &group) { copy_field(out, sizeof out, group.name, sizeof group.name); }
+
+cap_sections plan_sections(const cap_entry *entries, int32_t count)
+{
+    cap_sections plan;
+    memset(&plan, 0, sizeof plan);
+    for (int32_t k = 0; k < count; ++k) {
+        const cap_entry &e = entries[k];
+        if (e.group == nullptr)
+            continue;
+        char name[128];
+        group_name(name, *e.group);
+        if (cap_find_section(plan.at, plan.used, name) >= 0 || plan.used == kSectionSlots)
+            continue; // open already, or no room for an eleventh section
+        int32_t parent = -1;
+        if (e.group->parentName[0] != '\0') {
+            char parentName[sizeof e.group->parentName];
+            copy_field(parentName, sizeof parentName, e.group->parentName, sizeof e.group->parentName);
+            parent = cap_find_section(plan.at, plan.used, parentName);
+            if (parent < 0)
+                continue; // the parent has not appeared yet
+        }
+        memcpy(plan.at[plan.used].name, name, sizeof name);
+        plan.at[plan.used].parent = parent;
+        plan.at[plan.used].openedAt = k;
+        ++plan.used;
+    }
+    return plan;
+}
+
+/* The section of entry k: -1 for the root, -2 when the entry is left out
+   (its section never opens, or opens later). */
+int32_t section_of(const cap_sections &plan, const cap_entry &e, int32_t k)
+{
+    if (e.group == nullptr)
+        return -1;
+    char name[128];
+    group_name(name, *e.group);
+    if (name[0] == '\0') {
+        // A section without a name is never found again: each such entry
+        // opens one of its own.
+        for (int32_t s = 0; s < plan.used; ++s)
+            if (plan.at[s].openedAt == k)
+                return s;
+        return -2;
+    }
+    const int32_t s = cap_find_section(plan.at, plan.used, name);
+    return s >= 0 && plan.at[s].openedAt <= k ? s : -2;
+}
+
+/* A section's members in entry order: its own entries, and each child
+   section where the entry that opened it stands. */
+template <typename A>
+void section_members(A &a, const cap_sections &plan, cap_entry *entries, int32_t count, int32_t section)
+{
+    for (int32_t k = section < 0 ? 0 : plan.at[section].openedAt; k < count; ++k) {
+        for (int32_t c = 0; c < plan.used; ++c) {
+            if (plan.at[c].parent == section && plan.at[c].openedAt == k)
+                a.object(mw::Name::copied(plan.at[c].name),
+                         [&](auto &child) { section_members(child, plan, entries, count, c); });
+        }
+        if (section_of(plan, entries[k], k) == section)
+            capability_entry(a, entries[k], kLongLabel);
+    }
 }
 
 /* ---- video ---- */
 
-void add_codec_cap(cJSON *stream, const char *codec, const video_codec_cap &c)
+template <typename A>
+void codec_capability(A &a, const char *codec, const video_codec_cap &c)
 {
-    cJSON *o = mw::object(stream, codec);
-    add(o, "availableSize", c.availableSize);
-    add(o, "defResWidth", c.resolutions[0].width); // the first resolution is the default
-    add(o, "defResHeight", c.resolutions[0].height);
-    cJSON *list = mw::array(o, "resolution");
-    const int32_t size = mw::bounded_count(c.availableSize, 10);
-    for (int32_t r = 0; r < size; ++r) {
-        const video_resolution_cap &res = c.resolutions[r];
-        cJSON *item = mw::append_object(list);
-        add(item, "width", res.width);
-        add(item, "height", res.height);
-        add(item, "framerate", res.framerate);
-        add(item, "parityFramerate", res.parityFramerate);
-        add(item, "defBitRate", res.defBitRate);
-    }
+    a.object(mw::Name::fixed(codec), [&](auto &o) {
+        o.derived("availableSize", c.availableSize);
+        o.derived("defResWidth", c.resolutions[0].width); // the first resolution is the default
+        o.derived("defResHeight", c.resolutions[0].height);
+        o.list("resolution", nullptr, [&](auto &l) {
+            const int32_t size = mw::bounded_count(c.availableSize, 10);
+            for (int32_t r = 0; r < size; ++r) {
+                const video_resolution_cap &res = c.resolutions[r];
+                l.item([&](auto &item) {
+                    item.derived("width", res.width);
+                    item.derived("height", res.height);
+                    item.derived("framerate", res.framerate);
+                    item.derived("parityFramerate", res.parityFramerate);
+                    item.derived("defBitRate", res.defBitRate);
+                });
+            }
+        });
+    });
 }
 
 /* ---- audio ---- */
@@ -203,110 +283,111 @@ const char *bitrate_key(int32_t kbps)
 
 } // namespace
 
-int32_t get_cap_common_json(cap_entry *entries, int32_t count, char *dst, int32_t dstSize)
+/* The capability pages: what the camera offers, never written by a client.
+   The serializers take the entry count beside the record. */
+#define CAP_PAGE(resource, Record, describe)                                                                 \
+    int32_t get_##resource##_json(Record *in, int32_t count, char *dst, int32_t dstSize)                     \
+    {                                                                                                        \
+        return mw::render_page(dst, dstSize, describe(in, count));                                           \
+    }                                                                                                        \
+    int32_t schema_##resource##_json(Record *in, int32_t count, char *dst, int32_t dstSize)                  \
+    {                                                                                                        \
+        return mw::schema_page(dst, dstSize, "get_" #resource "_json", true, describe(in, count));           \
+    }
+
+namespace {
+
+auto describe_cap_common(cap_entry *entries, int32_t count)
 {
-    return mw::document(dst, dstSize, [entries, count](cJSON *root) {
+    return [entries, count](auto &a) {
         if (entries == nullptr)
             return;
-        cap_group_slot slots[kSectionSlots];
-        memset(slots, 0, sizeof slots);
-        int32_t used = 0;
-        for (int32_t k = 0; k < count; ++k) {
-            cap_entry &e = entries[k];
-            if (e.group == nullptr) {
-                render_entry(root, e, kLongLabel);
-                continue;
-            }
-            char name[sizeof slots[0].name];
-            copy_field(name, sizeof name, e.group->name, sizeof e.group->name);
-            cJSON *section = cap_find_group(slots, kSectionSlots, name);
-            if (section == nullptr) {
-                if (used == kSectionSlots)
-                    continue; // no room for an eleventh section
-                cJSON *parent = root;
-                if (e.group->parentName[0] != '\0') {
-                    char parentName[sizeof e.group->parentName];
-                    copy_field(parentName, sizeof parentName, e.group->parentName, sizeof e.group->parentName);
-                    parent = cap_find_group(slots, kSectionSlots, parentName);
-                    if (parent == nullptr)
-                        continue; // the parent has not appeared yet
-                }
-                section = mw::object(parent, name);
-                memcpy(slots[used].name, name, sizeof name);
-                slots[used].object = section;
-                ++used;
-            }
-            render_entry(section, e, kLongLabel);
-        }
-    });
+        const cap_sections plan = plan_sections(entries, count);
+        section_members(a, plan, entries, count, -1);
+    };
 }
 
-int32_t get_cap_general_video_json(cap_general_video_record *in, int32_t count, char *dst, int32_t dstSize)
+auto describe_cap_general_video(cap_general_video_record *in, int32_t count)
 {
-    return mw::document(dst, dstSize, [in, count](cJSON *root) {
-        render_entries(root, in->entries, mw::bounded_count(count, kVideoEntries), kShortLabel);
-        add(root, "streamCount", in->streamCount);
+    return [in, count](auto &a) {
+        capability_entries(a, in->entries, mw::bounded_count(count, kVideoEntries), kShortLabel);
+        a.derived("streamCount", in->streamCount);
         const mw::Text<32> gopRange("%d~%d", in->gopMin, in->gopMax); // the same range for every stream
         const int32_t streams = mw::bounded_count(in->streamCount, mw::kStreamNameCount);
         for (int32_t s = 0; s < streams; ++s) {
             if (in->streamEnable[s] == 0)
                 continue;
-            cJSON *o = mw::object(root, mw::kStreamNames[s]);
-            add_codec_cap(o, "H264", in->streams[s].h264);
-            add_codec_cap(o, "H265", in->streams[s].h265);
-            if (in->mjpegSupport[s] != 0)
-                add_codec_cap(o, "Mjpeg", in->streams[s].mjpeg);
-            mw::add_nonzero_int_array(o, "bitrate", in->bitrates[s], 30);
-            mw::add_string(o, "gopRange", gopRange);
+            a.object(mw::Name::fixed(mw::kStreamNames[s]), [&](auto &o) {
+                codec_capability(o, "H264", in->streams[s].h264);
+                codec_capability(o, "H265", in->streams[s].h265);
+                if (in->mjpegSupport[s] != 0)
+                    codec_capability(o, "Mjpeg", in->streams[s].mjpeg);
+                const mw::NonzeroValues rates = mw::nonzero_values(in->bitrates[s]);
+                o.derived_numbers("bitrate", rates.values, rates.count);
+                o.derived("gopRange", gopRange);
+            });
         }
-    });
+    };
 }
 
-int32_t get_cap_audio_json(cap_audio_record *in, int32_t count, char *dst, int32_t dstSize)
+auto describe_cap_audio(cap_audio_record *in, int32_t count)
 {
-    return mw::document(dst, dstSize, [in, count](cJSON *root) {
-        render_entries(root, in->entries, mw::bounded_count(count, kAudioEntries), kShortLabel);
+    return [in, count](auto &a) {
+        capability_entries(a, in->entries, mw::bounded_count(count, kAudioEntries), kShortLabel);
         for (int32_t e = 0; e < 5; ++e) {
             const audio_encoder_cap &enc = in->encoders[e];
             const char *key = encoder_key(enc.encodeType);
             if (key == nullptr)
                 continue; // an unknown encoder has no array, so nothing to list
-            cJSON *list = mw::array(root, key);
-            const int32_t rates = mw::bounded_count(enc.sampleRateCount, 10);
-            for (int32_t i = 0; i < rates; ++i) {
-                cJSON *item = mw::append_object(list);
-                const int32_t code = enc.sampleRates[i];
-                if (code >= 0 && code < 5)
-                    add(item, kSampleRates[code], code); // an unknown code leaves the object empty
-            }
+            a.list(mw::Name::fixed(key), nullptr, [&](auto &l) {
+                const int32_t rates = mw::bounded_count(enc.sampleRateCount, 10);
+                for (int32_t i = 0; i < rates; ++i) {
+                    const int32_t code = enc.sampleRates[i];
+                    l.item([&](auto &item) {
+                        if (code >= 0 && code < 5)
+                            item.derived(mw::Name::fixed(kSampleRates[code]), code); // an unknown code: {}
+                    });
+                }
+            });
         }
         for (int32_t t = 0; t < 5; ++t) {
             const audio_bitrate_cap &table = in->bitrateTables[t];
-            cJSON *list = mw::array(root, kBitrateTables[t]);
-            const int32_t rates = mw::bounded_count(table.bitrateCount, 10);
-            for (int32_t i = 0; i < rates; ++i) {
-                cJSON *item = mw::append_object(list);
-                const char *key = bitrate_key(table.bitrates[i]);
-                if (key != nullptr)
-                    add(item, key, table.bitrates[i]);
-            }
+            a.list(mw::Name::fixed(kBitrateTables[t]), nullptr, [&](auto &l) {
+                const int32_t rates = mw::bounded_count(table.bitrateCount, 10);
+                for (int32_t i = 0; i < rates; ++i) {
+                    const char *key = bitrate_key(table.bitrates[i]);
+                    l.item([&](auto &item) {
+                        if (key != nullptr)
+                            item.derived(mw::Name::fixed(key), table.bitrates[i]);
+                    });
+                }
+            });
         }
-    });
+    };
 }
 
-int32_t get_cap_ptz_json(cap_ptz_record *in, int32_t count, char *dst, int32_t dstSize)
+auto describe_cap_ptz(cap_ptz_record *in, int32_t count)
 {
-    return mw::document(dst, dstSize, [in, count](cJSON *root) {
-        render_entries(root, in->entries, mw::bounded_count(count, kPtzEntries), kShortLabel);
-        cJSON *list = mw::array(root, "specialPresetList");
-        for (int32_t p = 0; p < 21; ++p) {
-            const special_preset_entry &preset = in->specialPresets[p];
-            if (preset.id <= 0)
-                continue;
-            cJSON *item = mw::append_object(list);
-            add(item, "id", preset.id);
-            add(item, "isExist", preset.isExist);
-            add(item, "name", preset.name);
-        }
-    });
+    return [in, count](auto &a) {
+        capability_entries(a, in->entries, mw::bounded_count(count, kPtzEntries), kShortLabel);
+        a.list("specialPresetList", nullptr, [&](auto &l) {
+            for (int32_t p = 0; p < 21; ++p) {
+                const special_preset_entry &preset = in->specialPresets[p];
+                if (preset.id <= 0)
+                    continue;
+                l.item([&](auto &item) {
+                    item.derived("id", preset.id);
+                    item.derived("isExist", preset.isExist);
+                    item.derived("name", preset.name);
+                });
+            }
+        });
+    };
 }
+
+} // namespace
+
+CAP_PAGE(cap_common, cap_entry, describe_cap_common)
+CAP_PAGE(cap_general_video, cap_general_video_record, describe_cap_general_video)
+CAP_PAGE(cap_audio, cap_audio_record, describe_cap_audio)
+CAP_PAGE(cap_ptz, cap_ptz_record, describe_cap_ptz)

@@ -119,6 +119,7 @@ typedef struct cap_ptz_record {
    whose parent section has not appeared yet, is left out. `entries` may be
    NULL (an empty document). */
 MW_API int32_t get_cap_common_json(cap_entry *entries, int32_t count, char *dst, int32_t dstSize);
+MW_API int32_t schema_cap_common_json(cap_entry *entries, int32_t count, char *dst, int32_t dstSize);
 /* The entries, "streamCount", then each enabled stream with "H264", "H265",
    "Mjpeg" where offered, its non-zero "bitrate" values and "gopRange"
    ("min~max"). At most 20 entries, 6 streams and 10 resolutions a codec are
@@ -126,13 +127,16 @@ MW_API int32_t get_cap_common_json(cap_entry *entries, int32_t count, char *dst,
    stored values). */
 MW_API int32_t get_cap_general_video_json(cap_general_video_record *in, int32_t count, char *dst,
                                           int32_t dstSize);
+MW_API int32_t schema_cap_general_video_json(cap_general_video_record *in, int32_t count, char *dst, int32_t dstSize);
 /* The entries, one sample-rate array per encoder (named after its encoder
    type; an unknown type has none), then the bit rates of the five sample
    rates. At most 13 entries and 10 rates per list are read. */
 MW_API int32_t get_cap_audio_json(cap_audio_record *in, int32_t count, char *dst, int32_t dstSize);
+MW_API int32_t schema_cap_audio_json(cap_audio_record *in, int32_t count, char *dst, int32_t dstSize);
 /* The entries, then "specialPresetList" with the used slots. At most 9
    entries are read. */
 MW_API int32_t get_cap_ptz_json(cap_ptz_record *in, int32_t count, char *dst, int32_t dstSize);
+MW_API int32_t schema_cap_ptz_json(cap_ptz_record *in, int32_t count, char *dst, int32_t dstSize);
 
 /* ===== end capabilities ===== */
 

@@ -1,23 +1,22 @@
 /*
- * internal.h - the way a serializer is written.
+ * internal.h - the way a page is written.
  *
- * A serializer hands its fill step to `document`, which owns the rest of the
- * contract (buffer test, root object, print, delete, copy into the caller's
- * buffer, free), and fills the root one member a line, in emission order:
+ * A page is one description over its record (describe.h), declared with
+ * MW_SETTABLE_PAGE or MW_READ_ONLY_PAGE at the end of this file; the
+ * description gives the serializer, the schema function and, for a page a
+ * client may write, the set function. One line a key, in emission order:
  *
- *     int32_t get_system_model_json(const system_model_record *in, char *dst, int32_t dstSize)
- *     {
- *         return mw::document(dst, dstSize, [in](cJSON *root) {
- *             mw::add(root, "devicevEnder", in->devicevEnder);
- *             mw::add(root, "name", in->name);
- *             mw::add(root, "deviceModel", in->deviceModel);
- *         });
- *     }
+ *     MW_READ_ONLY_PAGE(system_model, [](auto &a, auto &r) {
+ *         a("devicevEnder", r.devicevEnder);
+ *         a("name", r.name);
+ *         a("deviceModel", r.deviceModel);
+ *     })
  *
- * `add` picks the JSON form from the field's own C type: int8/int16/int32/
- * int64 signed, uint8/uint16/uint32/uint64 unsigned, float widened to double,
- * char arrays as strings read no further than their array. Pass fields, not
- * casts, so that a field's declared type keeps deciding how it prints.
+ * The member's own C type picks the JSON form: int8/int16/int32/int64
+ * signed, uint8/uint16/uint32/uint64 unsigned, float widened to double, char
+ * arrays as texts read no further than their array. Pass members, not casts,
+ * so that a member's declared type keeps deciding how it prints and what a
+ * set request may write into it; a value the page computes is `derived`.
  *
  * Nothing here throws or needs the C++ runtime: the library links against
  * libc and libcjson only.
@@ -33,65 +32,7 @@
 
 namespace mw {
 
-/* ---- the contract ---- */
-
-/* buffer_usable (the buffer test every serializer starts with) and
-   print_document (print, delete the tree, copy at most dstSize-1 bytes and a
-   NUL, free the text; -1 when nothing could be printed) are in describe.h. */
-
-/* The serializer contract around a fill step `fill(cJSON *root)`. */
-template <typename Fill>
-int32_t document(char *dst, int32_t dstSize, Fill &&fill)
-{
-    if (!buffer_usable(dst, dstSize))
-        return -1;
-    cJSON *root = cJSON_CreateObject();
-    fill(root);
-    return print_document(root, dst, dstSize);
-}
-
-/* The same without the buffer test, for the serializers that always build and
-   print. A size below 1 (or a NULL buffer) copies nothing and still yields 0. */
-template <typename Fill>
-int32_t document_without_buffer_test(char *dst, int32_t dstSize, Fill &&fill)
-{
-    cJSON *root = cJSON_CreateObject();
-    fill(root);
-    return print_document(root, dst, dstSize);
-}
-
-/* ---- members: the field's type picks the number rule ---- */
-
-inline void add(cJSON *o, const char *key, int32_t v) { cJSON_AddNumberToObject(o, key, static_cast<double>(v)); }
-inline void add(cJSON *o, const char *key, int16_t v) { cJSON_AddNumberToObject(o, key, static_cast<double>(v)); }
-inline void add(cJSON *o, const char *key, int8_t v) { cJSON_AddNumberToObject(o, key, static_cast<double>(v)); }
-inline void add(cJSON *o, const char *key, int64_t v) { cJSON_AddNumberToObject(o, key, static_cast<double>(v)); }
-inline void add(cJSON *o, const char *key, uint8_t v) { cJSON_AddNumberToObject(o, key, static_cast<double>(v)); }
-inline void add(cJSON *o, const char *key, uint16_t v) { cJSON_AddNumberToObject(o, key, static_cast<double>(v)); }
-inline void add(cJSON *o, const char *key, uint32_t v) { cJSON_AddNumberToObject(o, key, static_cast<double>(v)); }
-inline void add(cJSON *o, const char *key, uint64_t v) { cJSON_AddNumberToObject(o, key, static_cast<double>(v)); }
-inline void add(cJSON *o, const char *key, float v) { cJSON_AddNumberToObject(o, key, static_cast<double>(v)); }
-inline void add(cJSON *o, const char *key, double v) { cJSON_AddNumberToObject(o, key, v); }
-
-/* A plain `char` has a platform-chosen sign; a record spells its bytes as
-   int8_t or uint8_t instead. */
-void add(cJSON *o, const char *key, char v) = delete;
-
-/* A text that is meant to end within `capacity` bytes. Should it not, the
-   first `capacity` bytes are written, never anything past the array. */
-void add_text(cJSON *o, const char *key, const char *text, size_t capacity);
-
-/* A text field: read no further than its array. */
-template <size_t N>
-inline void add(cJSON *o, const char *key, const char (&text)[N])
-{
-    add_text(o, key, text, N);
-}
-
-/* A text produced by the library itself (a generated or constant text). */
-inline void add_string(cJSON *o, const char *key, const char *text) { cJSON_AddStringToObject(o, key, text); }
-
-/* ---- nested nodes ---- */
+/* ---- nested nodes for the archives ---- */
 
 /* A new object (array) under `key`, made with json_set_element_struct
    (json_set_array_struct). A NULL parent (a root that could not be created)
@@ -135,16 +76,6 @@ Key<N>::Key(const char *format, ...)
 }
 
 /* ---- shared shapes ---- */
-
-/* "scheduleList": seven objects, day d from 0 to 6, each with
-   "scheduleIndex" d and "schedule" the day's text. */
-void add_schedule_list(cJSON *parent, const char *firstDay, size_t dayStride);
-
-template <size_t N>
-inline void add_schedule_list(cJSON *parent, const char (&days)[7][N])
-{
-    add_schedule_list(parent, days[0], N);
-}
 
 /* A polygon's coordinates as text: each value formatted "%d:" and appended,
    trailing colon kept ("10:20:30:40:"), in a 64-byte text cut silently at 63

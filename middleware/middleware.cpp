@@ -26,22 +26,6 @@ int32_t print_document(cJSON *root, char *dst, int32_t dstSize)
     return 0;
 }
 
-void add_text(cJSON *o, const char *key, const char *text, size_t capacity)
-{
-    if (memchr(text, '\0', capacity) != nullptr) {
-        cJSON_AddStringToObject(o, key, text);
-        return;
-    }
-    // An unterminated field: write what the array holds and no more.
-    char *copy = static_cast<char *>(malloc(capacity + 1));
-    if (copy == nullptr)
-        return;
-    memcpy(copy, text, capacity);
-    copy[capacity] = '\0';
-    cJSON_AddStringToObject(o, key, copy);
-    free(copy);
-}
-
 cJSON *object(cJSON *parent, const char *key)
 {
     cJSON *child = nullptr;
@@ -75,16 +59,6 @@ void format_into(char *out, size_t size, const char *format, va_list args)
     vsnprintf(out, size, format, args);
 }
 
-void add_schedule_list(cJSON *parent, const char *firstDay, size_t dayStride)
-{
-    cJSON *list = array(parent, "scheduleList");
-    for (int32_t d = 0; d < 7; ++d) {
-        cJSON *day = append_object(list);
-        add(day, "scheduleIndex", d);
-        add_text(day, "schedule", firstDay + static_cast<size_t>(d) * dayStride, dayStride);
-    }
-}
-
 PolygonText polygon_text(const int32_t *values, size_t count)
 {
     PolygonText p;
@@ -102,22 +76,23 @@ PolygonText polygon_text(const int32_t *values, size_t count)
 
 int32_t zk_return_get_request_empty_json(char *dst, int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [](cJSON *) {});
+    return mw::render_page(dst, dstSize, [](auto &) {});
 }
 
 int32_t zk_return_set_request_succeed_json(char *dst, int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [](cJSON *root) { mw::add_string(root, "setState", "succeed"); });
+    return mw::render_page(dst, dstSize, [](auto &a) { a.derived_text("setState", "succeed"); });
 }
 
 int32_t zk_return_set_request_faild_json(char *dst, int32_t dstSize)
 {
-    return mw::document(dst, dstSize, [](cJSON *root) { mw::add_string(root, "setState", "failed"); });
+    return mw::render_page(dst, dstSize, [](auto &a) { a.derived_text("setState", "failed"); });
 }
 
 int32_t zk_return_format_error_json(char *dst, int32_t dstSize, const char *key)
 {
-    return mw::document(dst, dstSize, [key](cJSON *root) { mw::add_string(root, key, "format error"); });
+    // The caller names the key: the tree keeps a copy of it.
+    return mw::render_page(dst, dstSize, [key](auto &a) { a.derived_text(mw::Name::copied(key), "format error"); });
 }
 
 int32_t zk_check_format_json(const char *query)

@@ -19,10 +19,6 @@ constexpr const char *kStreamNames[kStreamNameCount] = {
 /* Stream loops run while i < a stored count, and never past the names. */
 inline int32_t bounded_count(int32_t count, int32_t limit) { return count < limit ? count : limit; }
 
-/* `key`: a number array of the non-zero values among slots[0..count-1], in
-   slot order (0 marks an empty slot); [] when every slot is empty. */
-void add_nonzero_int_array(cJSON *parent, const char *key, const int32_t *slots, int32_t count);
-
 /* The non-zero values among 30 slots, in slot order (0 marks an empty slot):
    the compact bit-rate list, shown read-only. */
 struct NonzeroValues {

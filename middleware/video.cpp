@@ -5,24 +5,6 @@
  */
 #include "streams.h"
 
-
-
-namespace mw {
-
-void add_nonzero_int_array(cJSON *parent, const char *key, const int32_t *slots, int32_t count)
-{
-    int values[30];
-    int used = 0;
-    for (int32_t s = 0; s < count && used < 30; ++s)
-        if (slots[s] != 0)
-            values[used++] = slots[s];
-    cJSON *list = cJSON_CreateIntArray(values, used);
-    if (list != nullptr && !cJSON_AddItemToObject(parent, key, list))
-        cJSON_Delete(list); // no parent to hold it
-}
-
-} // namespace mw
-
 /* ==== stream profiles, overlays, frame rates and bit rates ==== */
 
 namespace {

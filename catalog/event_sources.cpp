@@ -161,7 +161,7 @@ const CatalogEntry entries[] = {
                        (kept<event_test_smtp_record, test_smtp>)),
     SETTABLE_ENTRY(event_io_info, "alarm outputs and their states", (kept<event_io_info_record, io_info>)),
     SETTABLE_ENTRY(event_audio_info, "audio-level alarm with its week", (kept<event_audio_info_record, audio_info>)),
-    MW_READ_ONLY_ENTRY(event_audio_sample_value, "current level of the audio input", "live reading",
+    MW_READ_ONLY_ENTRY(event_audio_sample_value, "current level of the audio input", "live readings",
                        (kept<event_audio_sample_value_record, audio_sample_value>)),
     SETTABLE_ENTRY(cal_region, "calibration rectangle in image pixels", (kept<cal_region_record, cal_region>)),
     SETTABLE_ENTRY(event_extern_input_info, "alarm inputs and their states",

@@ -2,7 +2,7 @@
  * mw-render - renders the catalog's sample documents, as the camera's web
  * server would send them.
  *
- *   mw-render --list        the documents, one a line: settable or read-only, and what each is
+ *   mw-render --list        the documents, one a line: settable or read-only (and why), and what each is
  *   mw-render NAME...       render the named documents to standard output
  *   mw-render --all         render every document, each under a header line
  *   mw-render --schema NAME the JSON Schema of a page's sample document
@@ -63,7 +63,10 @@ int main(int argc, char **argv)
     if (strcmp(argv[1], "--list") == 0) {
         for (const CatalogEntry *entry : entries) {
             const char *kind = entry->page == nullptr ? "reply" : entry->page->set != nullptr ? "settable" : "read-only";
-            printf("%-48s %-9s %s\n", entry->name, kind, entry->description);
+            if (entry->readOnly != nullptr)
+                printf("%-48s %-9s %s (read-only: %s)\n", entry->name, kind, entry->description, entry->readOnly);
+            else
+                printf("%-48s %-9s %s\n", entry->name, kind, entry->description);
         }
         return 0;
     }

@@ -38,11 +38,15 @@ void action_per_event_type(A &a, const Record &r, F &&fill)
     {                                                                                                         \
         if (in->eventType > kLastAlarmEventType)                                                              \
             return -1;                                                                                        \
+        if (!mw::buffer_usable(dst, dstSize))                                                                 \
+            return -1;                                                                                        \
         return mw::render_page(dst, dstSize, describe_##resource, *in);                                       \
     }                                                                                                         \
     int32_t schema_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)                 \
     {                                                                                                         \
         if (in->eventType > kLastAlarmEventType)                                                              \
+            return -1;                                                                                        \
+        if (!mw::buffer_usable(dst, dstSize))                                                                 \
             return -1;                                                                                        \
         return mw::schema_page(dst, dstSize, "get_" #resource "_json", false, describe_##resource, *in);      \
     }                                                                                                         \
@@ -328,12 +332,16 @@ int32_t get_event_server_ftp_json(const event_server_ftp_record *in, char *dst, 
 {
     if (!names_a_server(*in))
         return -1;
+    if (!mw::buffer_usable(dst, dstSize))
+        return -1;
     return mw::render_page(dst, dstSize, describe_event_server_ftp, *in);
 }
 
 int32_t schema_event_server_ftp_json(const event_server_ftp_record *in, char *dst, int32_t dstSize)
 {
     if (!names_a_server(*in))
+        return -1;
+    if (!mw::buffer_usable(dst, dstSize))
         return -1;
     return mw::schema_page(dst, dstSize, "get_event_server_ftp_json", false, describe_event_server_ftp, *in);
 }

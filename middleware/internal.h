@@ -101,13 +101,17 @@ PolygonText polygon_text(const int32_t *values, size_t count);
  *     })
  *
  * Pages with other argument lists write the three functions with
- * mw::render_page, mw::apply_page and mw::schema_page. */
+ * mw::render_page, mw::apply_page and mw::schema_page. Each tests the buffer
+ * before it dereferences a record, so that a refused buffer returns before
+ * any record is read. */
 #define MW_PAGE_DESCRIPTION_(resource, Record, ...)                                                          \
     namespace {                                                                                              \
     constexpr auto describe_##resource = __VA_ARGS__;                                                        \
     }                                                                                                        \
     int32_t get_##resource##_json(const Record *in, char *dst, int32_t dstSize)                              \
     {                                                                                                        \
+        if (!mw::buffer_usable(dst, dstSize))                                                                \
+            return -1;                                                                                       \
         return mw::render_page(dst, dstSize, describe_##resource, *in);                                      \
     }
 
@@ -117,6 +121,8 @@ PolygonText polygon_text(const int32_t *values, size_t count);
     MW_PAGE_DESCRIPTION_(resource, Record, __VA_ARGS__)                                                      \
     int32_t schema_##resource##_json(const Record *in, char *dst, int32_t dstSize)                           \
     {                                                                                                        \
+        if (!mw::buffer_usable(dst, dstSize))                                                                \
+            return -1;                                                                                       \
         return mw::schema_page(dst, dstSize, "get_" #resource "_json", true, describe_##resource, *in);      \
     }
 
@@ -124,6 +130,8 @@ PolygonText polygon_text(const int32_t *values, size_t count);
     MW_PAGE_DESCRIPTION_(resource, Record, __VA_ARGS__)                                                      \
     int32_t schema_##resource##_json(const Record *in, char *dst, int32_t dstSize)                           \
     {                                                                                                        \
+        if (!mw::buffer_usable(dst, dstSize))                                                                \
+            return -1;                                                                                       \
         return mw::schema_page(dst, dstSize, "get_" #resource "_json", false, describe_##resource, *in);     \
     }                                                                                                        \
     int32_t set_##resource##_json(Record *record, const char *body, int32_t bodySize, char *dst,             \

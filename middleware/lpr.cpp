@@ -52,10 +52,14 @@ constexpr auto describe_list_settings = [](auto &a, auto &r, auto &direction) {
 #define LPR_PAGE_WITH(resource, Record, Second, describe)                                                     \
     int32_t get_##resource##_json(const Record *in, const Second *second, char *dst, int32_t dstSize)        \
     {                                                                                                        \
+        if (!mw::buffer_usable(dst, dstSize))                                                                \
+            return -1;                                                                                       \
         return mw::render_page(dst, dstSize, describe, *in, *second);                                        \
     }                                                                                                        \
     int32_t schema_##resource##_json(const Record *in, const Second *second, char *dst, int32_t dstSize)     \
     {                                                                                                        \
+        if (!mw::buffer_usable(dst, dstSize))                                                                \
+            return -1;                                                                                       \
         return mw::schema_page(dst, dstSize, "get_" #resource "_json", false, describe, *in, *second);       \
     }                                                                                                        \
     int32_t set_##resource##_json(Record *record, Second *second, const char *body, int32_t bodySize,        \

@@ -193,6 +193,8 @@ int32_t get_system_aes_key_json(const system_aes_key_record *in, char *dst, int3
 
 int32_t schema_system_aes_key_json(const system_aes_key_record *in, char *dst, int32_t dstSize)
 {
+    if (!mw::buffer_usable(dst, dstSize))
+        return -1;
     return mw::schema_page(dst, dstSize, "get_system_aes_key_json", true, describe_aes_key, *in);
 }
 

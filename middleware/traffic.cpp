@@ -13,10 +13,14 @@
     }                                                                                                        \
     int32_t ware_get_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)              \
     {                                                                                                        \
+        if (!mw::buffer_usable(dst, dstSize))                                                                \
+            return -1;                                                                                       \
         return mw::render_page(dst, dstSize, describe_##resource, *in);                                      \
     }                                                                                                        \
     int32_t ware_schema_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)           \
     {                                                                                                        \
+        if (!mw::buffer_usable(dst, dstSize))                                                                 \
+            return -1;                                                                                        \
         return mw::schema_page(dst, dstSize, "ware_get_" #resource "_json", false, describe_##resource, *in); \
     }                                                                                                        \
     int32_t ware_set_##resource##_json(resource##_record *record, const char *body, int32_t bodySize,        \
@@ -34,11 +38,15 @@
     int32_t ware_get_##resource##_json(const resource##_record *in, const Second *second, char *dst,         \
                                        int32_t dstSize)                                                      \
     {                                                                                                        \
+        if (!mw::buffer_usable(dst, dstSize))                                                                \
+            return -1;                                                                                       \
         return mw::render_page(dst, dstSize, describe_##resource, *in, *second);                             \
     }                                                                                                        \
     int32_t ware_schema_##resource##_json(const resource##_record *in, const Second *second, char *dst,      \
                                           int32_t dstSize)                                                   \
     {                                                                                                        \
+        if (!mw::buffer_usable(dst, dstSize))                                                                \
+            return -1;                                                                                       \
         return mw::schema_page(dst, dstSize, "ware_get_" #resource "_json", false, describe_##resource, *in, \
                                *second);                                                                     \
     }                                                                                                        \
@@ -119,6 +127,8 @@ auto describe_parking_general(const char *areaList)
 int32_t ware_get_parking_general_json(const parking_general_record *in, const char *areaList, char *dst,
                                       int32_t dstSize)
 {
+    if (!mw::buffer_usable(dst, dstSize))
+        return -1;
     return mw::render_page(dst, dstSize, describe_parking_general(areaList), *in);
 }
 

@@ -126,6 +126,8 @@ int32_t get_sensor_config_json(const sensor_config_record *in, char *dst, int32_
 
 int32_t schema_sensor_config_json(const sensor_config_record *in, char *dst, int32_t dstSize)
 {
+    if (!mw::buffer_usable(dst, dstSize))
+        return -1;
     return mw::schema_page(dst, dstSize, "get_sensor_config_json", false, describe_sensor_config, *in);
 }
 
@@ -194,12 +196,16 @@ constexpr auto describe_dehumidifying_info = [](auto &a, auto &info, auto &statu
 int32_t get_dehumidifying_info_json(const dehumidifying_info_record *info, const dehumidifying_status_record *status,
                                     char *dst, int32_t dstSize)
 {
+    if (!mw::buffer_usable(dst, dstSize))
+        return -1;
     return mw::render_page(dst, dstSize, describe_dehumidifying_info, *info, *status);
 }
 
 int32_t schema_dehumidifying_info_json(const dehumidifying_info_record *info,
                                        const dehumidifying_status_record *status, char *dst, int32_t dstSize)
 {
+    if (!mw::buffer_usable(dst, dstSize))
+        return -1;
     return mw::schema_page(dst, dstSize, "get_dehumidifying_info_json", false, describe_dehumidifying_info, *info,
                            *status);
 }

@@ -1,6 +1,7 @@
 #include "catalog.h"
 
 #include <cstring>
+#include <iterator>
 
 namespace {
 const CatalogGroup *const groups[] = {
@@ -10,6 +11,11 @@ const CatalogGroup *const groups[] = {
     &catalog_capability,    &catalog_vca,           &catalog_lpr,
 };
 } // namespace
+
+std::vector<const CatalogGroup *> catalog_groups()
+{
+    return std::vector<const CatalogGroup *>(std::begin(groups), std::end(groups));
+}
 
 std::vector<const CatalogEntry *> catalog_entries()
 {

@@ -153,6 +153,8 @@ extern const CatalogGroup catalog_capability;
 extern const CatalogGroup catalog_vca;
 extern const CatalogGroup catalog_lpr;
 
+// The groups, in catalog order.
+std::vector<const CatalogGroup *> catalog_groups();
 // Every entry, group by group.
 std::vector<const CatalogEntry *> catalog_entries();
 // The entry rendered by `name`, or nullptr.

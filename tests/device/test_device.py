@@ -1,0 +1,348 @@
+#!/usr/bin/env python3
+"""The device simulator as a web client sees it, on 127.0.0.1 only.
+
+    test_device.py MW_DEVICE MW_RENDER
+
+Every catalog page is served as mw-render renders it, set requests answer with
+the reply envelopes, read-only pages refuse them, persistence survives a
+SIGKILL in the middle of a stream of sets, and hostile input is answered or
+cut off while everyone else is still served. Every loop is bounded.
+"""
+import http.client
+import json
+import os
+import shutil
+import signal
+import socket
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+import unittest
+
+DEVICE, RENDER = sys.argv[1], sys.argv[2]
+
+
+def catalog():
+    """(name, kind) of every catalog page from mw-render --list (replies are not pages)."""
+    out = subprocess.run([RENDER, '--list'], check=True, capture_output=True, text=True).stdout
+    rows = [line.split()[:2] for line in out.splitlines() if line.strip()]
+    return [(name, kind) for name, kind in rows if kind != 'reply']
+
+
+class Server:
+    def __init__(self, *args):
+        self.process = subprocess.Popen([DEVICE, '--port', '0', '--timeout', '2'] + list(args),
+                                        stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+        line = self.process.stdout.readline()
+        if not line.startswith('mw-device: http://127.0.0.1:'):
+            raise RuntimeError('no URL: ' + line + self.process.stderr.read())
+        self.port = int(line.rsplit(':', 1)[1].strip('/\n'))
+
+    def request(self, method, path, body=None, timeout=10):
+        connection = http.client.HTTPConnection('127.0.0.1', self.port, timeout=timeout)
+        try:
+            connection.request(method, path, body=body)
+            response = connection.getresponse()
+            return response.status, response.read().decode('utf-8', 'replace'), dict(response.getheaders())
+        finally:
+            connection.close()
+
+    def stop(self, kill=False):
+        if self.process.poll() is None:
+            self.process.send_signal(signal.SIGKILL if kill else signal.SIGTERM)
+        self.process.wait(timeout=10)
+        errors = self.process.stderr.read()
+        self.process.stdout.close()
+        self.process.stderr.close()
+        return errors
+
+
+def envelope(key, value):
+    return json.dumps({key: value}, separators=(',', ':\t')).replace('{', '{\n\t').replace('}', '\n}')
+
+
+FORMAT_ERROR = lambda key: '{\n\t"%s":\t"format error"\n}' % key
+SUCCEED = '{\n\t"setState":\t"succeed"\n}'
+
+
+class Pages(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.server = Server()
+        status, body, _ = cls.server.request('GET', '/api')
+        assert status == 200, status
+        cls.index = json.loads(body)['pages']
+        cls.by_name = {p['name']: p for p in cls.index}
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.server.stop()
+
+    def test_index_lists_every_catalog_page_once(self):
+        expected = catalog()
+        self.assertEqual([p['name'] for p in self.index], [name for name, _ in expected])
+        self.assertEqual(len({p['path'] for p in self.index}), len(self.index))
+        for name, kind in expected:
+            page = self.by_name[name]
+            self.assertEqual(page['settable'], kind == 'settable', name)
+            self.assertTrue(page['path'].startswith('/api/') and page['group'] and page['description'], name)
+        self.assertEqual(self.by_name['get_event_notify_json'].get('argument'), 'eventType')
+
+    def test_every_page_renders_as_its_serializer_does(self):
+        for page in self.index:
+            expected = subprocess.run([RENDER, page['name']], check=True, capture_output=True,
+                                      text=True).stdout.rstrip('\n')
+            status, body, headers = self.server.request('GET', page['path'] + '?format=json')
+            self.assertEqual((status, body), (200, expected), page['name'])
+            self.assertEqual(headers.get('Content-Type'), 'application/json', page['name'])
+
+    def test_a_query_without_format_json_is_refused(self):
+        for query in ['', '?', '?format=xml', '?FORMAT=JSON']:
+            status, body, _ = self.server.request('GET', '/api/ptz_wiper' + query)
+            self.assertEqual((status, body), (400, FORMAT_ERROR('format')), query)
+        # The test is the library's: "format=json" anywhere in the query.
+        status, _, _ = self.server.request('GET', '/api/ptz_wiper?x=1&myformat=json')
+        self.assertEqual(status, 200)
+
+    def test_every_schema_describes_its_page(self):
+        for page in self.index:
+            status, body, _ = self.server.request('GET', page['path'] + '/schema')
+            self.assertEqual(status, 200, page['name'])
+            schema = json.loads(body)
+            self.assertEqual(schema['title'], page['name'])
+            self.assertEqual(schema['type'], 'object')
+
+    def test_own_documents_post_back_and_read_only_pages_refuse(self):
+        for page in self.index:
+            _, document, _ = self.server.request('GET', page['path'] + '?format=json')
+            status, body, headers = self.server.request('POST', page['path'] + '?format=json', document)
+            if page['settable']:
+                self.assertEqual((status, body), (200, SUCCEED), page['name'])
+                _, again, _ = self.server.request('GET', page['path'] + '?format=json')
+                self.assertEqual(again, document, page['name'])
+            else:
+                self.assertEqual(status, 405, page['name'])
+                self.assertEqual(headers.get('Allow'), 'GET', page['name'])
+
+    def test_refusals_name_the_key_and_change_nothing(self):
+        cases = [
+            ('/api/ptz_wiper', '{"autoWiper": "on"}', 'autoWiper'),
+            ('/api/ptz_wiper', '{"autoWiper": 2147483648}', 'autoWiper'),
+            ('/api/ptz_wiper', '{"autoWiper": 1.5}', 'autoWiper'),
+            ('/api/ptz_wiper', '{"status": 1, "wiperSpeed": 2}', 'wiperSpeed'),
+            ('/api/ptz_wiper', '[1, 2]', 'body'),
+            ('/api/ptz_wiper', '{"autoWiper": 1', 'body'),
+            ('/api/ptz_wiper', '', 'body'),
+            ('/api/event_notify', '{"noSuchEvent": {}}', 'noSuchEvent'),
+        ]
+        for path, request, key in cases:
+            _, before, _ = self.server.request('GET', path + '?format=json')
+            status, body, _ = self.server.request('POST', path + '?format=json', request)
+            self.assertEqual((status, body), (400, FORMAT_ERROR(key)), request)
+            _, after, _ = self.server.request('GET', path + '?format=json')
+            self.assertEqual(after, before, request)
+
+    def test_a_set_shows_in_the_next_get(self):
+        _, sample, _ = self.server.request('GET', '/api/system_water_mark?format=json')
+        status, body, _ = self.server.request('POST', '/api/system_water_mark?format=json',
+                                              '{"waterMarkString": "Gate 4 north"}')
+        self.assertEqual((status, body), (200, SUCCEED))
+        _, document, _ = self.server.request('GET', '/api/system_water_mark?format=json')
+        self.assertEqual(json.loads(document)['waterMarkString'], 'Gate 4 north')
+        self.assertEqual(json.loads(document)['waterMarkEnable'], json.loads(sample)['waterMarkEnable'])
+        self.assertEqual(self.server.request('POST', '/api/system_water_mark?format=json', sample)[0], 200)
+
+    def test_arguments_select_what_the_page_shows(self):
+        _, every, _ = self.server.request('GET', '/api/event_notify?format=json&eventType=-1')
+        _, one, _ = self.server.request('GET', '/api/event_notify?format=json&eventType=0')
+        self.assertEqual(len(json.loads(every)), 48)
+        self.assertEqual(len(json.loads(one)), 1)
+        for bad in ['x', '', '1.5', '99999999999']:
+            status, body, _ = self.server.request('GET', '/api/event_notify?format=json&eventType=' + bad)
+            self.assertEqual((status, body), (400, FORMAT_ERROR('eventType')), bad)
+        # A count argument bounds the report.
+        _, two, _ = self.server.request('GET', '/api/lpr_last_data?format=json&count=2')
+        self.assertIn('plate_1', json.loads(two))
+        self.assertNotIn('plate_2', json.loads(two))
+
+    def test_unknown_paths_other_methods_and_large_bodies(self):
+        cases = [
+            ('GET', '/api/no_such_page?format=json', None, 404),
+            ('GET', '/nothing', None, 404),
+            ('DELETE', '/api/ptz_wiper?format=json', None, 405),
+            ('PUT', '/api/ptz_wiper?format=json', '{}', 405),
+            ('POST', '/api', '{}', 405),
+            ('POST', '/api/ptz_wiper/schema', '{}', 405),
+            ('POST', '/api/ptz_wiper?format=json', '{"autoWiper": 1, "x": "' + 'a' * 70000 + '"}', 413),
+        ]
+        for method, path, body, expected in cases:
+            status, text, _ = self.server.request(method, path, body)
+            self.assertEqual(status, expected, (method, path))
+            json.loads(text)  # a short JSON error body
+
+    def test_the_browser_page_is_served(self):
+        for path, kind in [('/', 'text/html'), ('/app.js', 'text/javascript'), ('/style.css', 'text/css')]:
+            status, _, headers = self.server.request('GET', path)
+            self.assertEqual(status, 200, path)
+            self.assertTrue(headers['Content-Type'].startswith(kind), path)
+
+
+class Hostile(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.server = Server()
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.server.stop()
+
+    def raw(self, data, wait=5):
+        with socket.create_connection(('127.0.0.1', self.server.port), timeout=wait) as s:
+            s.sendall(data)
+            try:
+                return s.recv(4096)
+            except (socket.timeout, ConnectionResetError):
+                return b''
+
+    def still_serving(self):
+        start = time.monotonic()
+        status, _, _ = self.server.request('GET', '/api/ptz_wiper?format=json', timeout=5)
+        self.assertEqual(status, 200)
+        self.assertLess(time.monotonic() - start, 2)
+
+    def test_malformed_requests_get_a_clear_status(self):
+        for line in [b'GARBAGE\r\n\r\n', b'GET\r\n\r\n', b'GET /api HTTP/9.9\r\n\r\n', b'\x00\xff\xfe\r\n\r\n',
+                     b'GET /api HTTP/1.1\r\nHost: x\r\nContent-Length: -5\r\n\r\n']:
+            answer = self.raw(line)
+            self.assertTrue(answer == b'' or answer.startswith(b'HTTP/1.1 4') or answer.startswith(b'HTTP/1.1 5'),
+                            (line, answer[:40]))
+        self.still_serving()
+
+    def test_hostile_bodies(self):
+        cases = [
+            ('{"autoWiper": ' + '[' * 10000 + ']' * 10000 + '}', 400),
+            ('not json at all', 400),
+            ('{"autoWiper": 1, "status"', 400),
+            ('{"autoWiper": 1}' + ' x', 400),
+        ]
+        for body, expected in cases:
+            status, text, _ = self.server.request('POST', '/api/ptz_wiper?format=json', body)
+            self.assertEqual(status, expected, body[:30])
+            self.assertEqual(text, FORMAT_ERROR('body'), body[:30])
+        status, _, _ = self.server.request('POST', '/api/ptz_wiper?format=json', b'x' * (1 << 20))
+        self.assertEqual(status, 413)
+        # Invalid UTF-8 in a text: stored as bytes or refused, never a crash.
+        status, _, _ = self.server.request('POST', '/api/system_water_mark?format=json',
+                                           b'{"waterMarkString": "\xff\xfe\xc3"}')
+        self.assertIn(status, (200, 400))
+        self.still_serving()
+
+    def test_a_client_sending_a_byte_a_second_is_cut_off(self):
+        # It dribbles the start of a request a byte a second, then stalls:
+        # the server's idle timeout (2 s here) cuts it off, and everyone else
+        # is served meanwhile.
+        closed = []
+
+        def slow():
+            with socket.create_connection(('127.0.0.1', self.server.port), timeout=10) as s:
+                for b in b'GET /':
+                    s.sendall(bytes([b]))
+                    time.sleep(1)
+                stalled = time.monotonic()
+                try:
+                    answer = s.recv(1)
+                except OSError:
+                    answer = b''
+                closed.append((answer, time.monotonic() - stalled))
+
+        thread = threading.Thread(target=slow)
+        thread.start()
+        for _ in range(3):
+            time.sleep(1)
+            self.still_serving()
+        thread.join(timeout=15)
+        self.assertEqual(len(closed), 1)
+        self.assertIn(closed[0][0], (b'', b'H'))
+        self.assertLess(closed[0][1], 4)
+
+
+class Persistence(unittest.TestCase):
+    def setUp(self):
+        self.dir = tempfile.mkdtemp(prefix='mw-device-state-')
+
+    def tearDown(self):
+        shutil.rmtree(self.dir, ignore_errors=True)
+
+    def test_acknowledged_sets_survive_a_kill(self):
+        server = Server('--state', self.dir)
+        acknowledged = []
+        stop = threading.Event()
+
+        def stream():
+            i = 0
+            while not stop.is_set() and i < 2000:
+                try:
+                    status, body, _ = server.request('POST', '/api/system_water_mark?format=json',
+                                                     json.dumps({'waterMarkString': 'mark %d' % i}), timeout=5)
+                except OSError:
+                    return
+                if status == 200 and body == SUCCEED:
+                    acknowledged.append(i)
+                i += 1
+
+        thread = threading.Thread(target=stream)
+        thread.start()
+        time.sleep(1.0)
+        server.stop(kill=True)
+        stop.set()
+        thread.join(timeout=10)
+        self.assertGreater(len(acknowledged), 5)
+        again = Server('--state', self.dir)
+        try:
+            _, document, _ = again.request('GET', '/api/system_water_mark?format=json')
+            value = int(json.loads(document)['waterMarkString'].split()[1])
+            self.assertGreaterEqual(value, acknowledged[-1])
+            for page in json.loads(again.request('GET', '/api')[1])['pages']:
+                self.assertEqual(again.request('GET', page['path'] + '?format=json')[0], 200, page['name'])
+        finally:
+            again.stop()
+
+    def test_saved_documents_with_read_only_keys_apply_at_start(self):
+        # The root repeats the first target's address read-only: the saved
+        # document carries the new address twice, the sample the old one.
+        server = Server('--state', self.dir)
+        _, document, _ = server.request('GET', '/api/vehicle_count_setting?format=json')
+        changed = json.loads(document)
+        changed['httpList'][0]['url'] = 'http://counts.example.net/in'
+        status, body, _ = server.request('POST', '/api/vehicle_count_setting?format=json', json.dumps(changed))
+        self.assertEqual((status, body), (200, SUCCEED))
+        _, saved, _ = server.request('GET', '/api/vehicle_count_setting?format=json')
+        self.assertEqual(json.loads(saved)['httpUrl'], 'http://counts.example.net/in')
+        server.stop()
+        again = Server('--state', self.dir)
+        try:
+            self.assertEqual(again.request('GET', '/api/vehicle_count_setting?format=json')[1], saved)
+        finally:
+            self.assertEqual(again.stop(), '')
+
+    def test_a_saved_document_that_no_longer_applies_is_reported(self):
+        with open(os.path.join(self.dir, 'get_ptz_rs485_json.json'), 'w') as f:
+            f.write('{"baudRate": ')
+        with open(os.path.join(self.dir, 'get_ptz_wiper_json.json'), 'w') as f:
+            f.write('{"autoWiper": "fast"}')
+        sample = subprocess.run([RENDER, 'get_ptz_wiper_json'], check=True, capture_output=True,
+                                text=True).stdout.rstrip('\n')
+        server = Server('--state', self.dir)
+        try:
+            self.assertEqual(server.request('GET', '/api/ptz_wiper?format=json')[1], sample)
+            self.assertEqual(server.request('GET', '/api/ptz_rs485?format=json')[0], 200)
+        finally:
+            errors = server.stop()
+        self.assertIn('get_ptz_rs485_json', errors)
+        self.assertIn('get_ptz_wiper_json', errors)
+
+
+if __name__ == '__main__':
+    unittest.main(argv=[sys.argv[0], '-v'])

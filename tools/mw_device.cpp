@@ -439,8 +439,15 @@ MHD_Result handle(void *, struct MHD_Connection *connection, const char *url, co
 std::string fixedBody;
 
 MHD_Result handle_fixed(void *, struct MHD_Connection *connection, const char *, const char *, const char *,
-                        const char *, size_t *uploadSize, void **)
+                        const char *, size_t *uploadSize, void **context)
 {
+    // The same request protocol as the pages: headers first, then the body,
+    // then the answer.
+    Request *request = static_cast<Request *>(*context);
+    if (request != nullptr && !request->headersSeen) {
+        request->headersSeen = true;
+        return MHD_YES;
+    }
     if (*uploadSize != 0) {
         *uploadSize = 0;
         return MHD_YES;

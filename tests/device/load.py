@@ -1,0 +1,123 @@
+#!/usr/bin/env python3
+"""Load on the device simulator with wrk, on 127.0.0.1 only, bounded in time.
+
+    load.py MW_DEVICE [--seconds S] [--connections C] [--threads T] [--enforce]
+
+Runs, in one go: GETs spread over every page; a mixed run where one request
+in ten posts a page's own document back; and the same GET load against
+mw-device --fixed-body serving one document of the catalog's mean size from
+the same HTTP set-up. Every request must be answered 2xx and sampled bodies
+must parse. Prints requests per second and p99 latency for each; with
+--enforce, fails when the simulator keeps less than half the fixed-body rate.
+"""
+import argparse
+import http.client
+import json
+import os
+import re
+import subprocess
+import sys
+import tempfile
+
+parser = argparse.ArgumentParser()
+parser.add_argument('device')
+parser.add_argument('--seconds', type=int, default=10)
+parser.add_argument('--connections', type=int, default=64)
+parser.add_argument('--threads', type=int, default=2)
+parser.add_argument('--enforce', action='store_true')
+options = parser.parse_args()
+
+
+def start(*args):
+    process = subprocess.Popen([options.device, '--port', '0', '--threads', '4'] + list(args),
+                               stdout=subprocess.PIPE, text=True)
+    line = process.stdout.readline()
+    return process, int(line.rsplit(':', 1)[1].strip('/\n'))
+
+
+def get(port, path, method='GET', body=None):
+    connection = http.client.HTTPConnection('127.0.0.1', port, timeout=10)
+    connection.request(method, path, body=body)
+    response = connection.getresponse()
+    data = response.read().decode()
+    connection.close()
+    return response.status, data
+
+
+def lua_string(text):
+    level = '=' * 4
+    return '[' + level + '[' + text + ']' + level + ']'
+
+
+def script(paths, posts):
+    lines = ['local paths = {' + ','.join(lua_string(p + '?format=json') for p in paths) + '}',
+             'local posts = {' + ','.join('{%s, %s}' % (lua_string(p + '?format=json'), lua_string(b))
+                                          for p, b in posts) + '}',
+             'local n = 0',
+             'request = function()',
+             '  n = n + 1',
+             '  if #posts > 0 and n % 10 == 0 then',
+             '    local p = posts[(n // 10) % #posts + 1]',
+             '    return wrk.format("POST", p[1], nil, p[2])',
+             '  end',
+             '  return wrk.format("GET", paths[n % #paths + 1])',
+             'end']
+    handle = tempfile.NamedTemporaryFile('w', suffix='.lua', delete=False)
+    handle.write('\n'.join(lines) + '\n')
+    handle.close()
+    return handle.name
+
+
+def wrk(port, lua):
+    out = subprocess.run(['wrk', '-t', str(options.threads), '-c', str(options.connections),
+                          '-d', '%ds' % options.seconds, '--latency', '-s', lua, 'http://127.0.0.1:%d/' % port],
+                         check=True, capture_output=True, text=True, timeout=options.seconds + 60).stdout
+    rps = float(re.search(r'Requests/sec:\s+([\d.]+)', out).group(1))
+    p99 = re.search(r'99%\s+([\d.]+)(us|ms|s)', out)
+    scale = {'us': 0.001, 'ms': 1.0, 's': 1000.0}[p99.group(2)]
+    bad = re.search(r'Non-2xx or 3xx responses:\s+(\d+)', out)
+    errors = re.search(r'Socket errors: (.*)', out)
+    return rps, float(p99.group(1)) * scale, int(bad.group(1)) if bad else 0, errors.group(1) if errors else ''
+
+
+simulator, port = start()
+fixed = None
+try:
+    pages = json.loads(get(port, '/api')[1])['pages']
+    documents = {p['path']: get(port, p['path'] + '?format=json')[1] for p in pages}
+    posts = [(p['path'], documents[p['path']]) for p in pages if p['settable'] and len(documents[p['path']]) < 8000]
+    mean = sum(len(d) for d in documents.values()) // len(documents)
+    body = min(documents.values(), key=lambda d: abs(len(d) - mean))
+    with tempfile.NamedTemporaryFile('w', suffix='.json', delete=False) as f:
+        f.write(body)
+        fixed_file = f.name
+    fixed, fixed_port = start('--fixed-body', fixed_file)
+
+    results = {
+        'simulator GET': wrk(port, script(list(documents), [])),
+        'simulator GET+POST': wrk(port, script(list(documents), posts)),
+        'fixed body': wrk(fixed_port, script(['/'], [])),
+    }
+    failed = False
+    print('%-20s %12s %10s' % ('run', 'requests/s', 'p99 ms'))
+    for name, (rps, p99, bad, errors) in results.items():
+        print('%-20s %12.0f %10.2f%s' % (name, rps, p99, '' if not bad and not errors else
+                                          '   non-2xx %d, socket errors: %s' % (bad, errors)))
+        failed |= bad > 0
+    ratio = results['simulator GET'][0] / results['fixed body'][0]
+    print('simulator GET rate / fixed-body rate: %.2f (mean document %d bytes)' % (ratio, mean))
+    # Sampled bodies after the load still parse and still match their pages.
+    for path in list(documents)[::10]:
+        status, text = get(port, path + '?format=json')
+        json.loads(text)
+        failed |= status != 200
+    if options.enforce and ratio < 0.5:
+        print('the simulator keeps less than half of the fixed-body rate')
+        failed = True
+    sys.exit(1 if failed else 0)
+finally:
+    simulator.terminate()
+    simulator.wait(timeout=10)
+    if fixed is not None:
+        fixed.terminate()
+        fixed.wait(timeout=10)

@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# The whole test suite: a plain build, a sanitizer build (ASan + UBSan), the
-# concurrency test under ThreadSanitizer, a coverage build held to its floor,
-# and a 64-bit Arm build run under qemu-user, each built and run through CTest.
+# The whole test suite: a plain build (with the device simulator's client
+# test), a short load test and the browser test of the simulator, a sanitizer
+# build (ASan + UBSan), the concurrency test under ThreadSanitizer, the fuzz
+# targets for a bounded time, a coverage build held to its floor, and a
+# 64-bit Arm build run under qemu-user.
 # Installs what is missing first. Exits non-zero when any test fails.
 # MW_SKIP_ARM64=1 leaves out the Arm build (a quicker local run).
 set -euo pipefail
@@ -12,6 +14,11 @@ echo "== build (plain)"
 bash scripts/build.sh build -DMW_TESTS=ON
 echo "== tests (plain)"
 ctest --test-dir build --output-on-failure -j"$(nproc)"
+
+echo "== device simulator: short load test and the browser page in Chromium"
+python3 tests/device/load.py build/mw-device --seconds 2 --connections 16
+bash scripts/setup-browser.sh
+node tests/browser/browser_test.js build/mw-device build/browser-test.png
 
 echo "== build (sanitizers)"
 bash scripts/build.sh build-sanitize -DMW_TESTS=ON -DMW_SANITIZE=ON

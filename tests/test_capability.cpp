@@ -66,6 +66,8 @@ TEST(CapOptionList, Tokens)
         {"signed and spaced number", "<+3>Plus;< 42>Space", {N("Plus", 3), N("Space", 42)}, ""},
         {"number stops at other text", "<12abc>Mixed;<x5>Lead", {N("Mixed", 12), N("Lead", 0)}, ""},
         {"empty number", "<>Empty", {N("Empty", 0)}, ""},
+        {"numbers past 32 bits are held at the range's ends", "<2147483647>Max;<2147483648>Over;<-99999999999>Under",
+         {N("Max", 2147483647), N("Over", 2147483647), N("Under", -2147483648.0)}, ""},
         {"repeated label kept twice", "<1>Dup;<2>Dup", {N("Dup", 1), N("Dup", 2)}, ""},
         {"label cut at 31", "<8>" + std::string(40, 'L'), {N(std::string(31, 'L').c_str(), 8)}, ""},
         {"empty list", "", {}, ""},
@@ -183,6 +185,36 @@ TEST(CapCommon, TenSectionsAtMostWithExactNames)
     test::expect_members(doc["s9"], {O("in9")});
     const test::Json none = RENDER(get_cap_common_json(nullptr, 5, d, n)); // no entry list at all
     EXPECT_TRUE(test::keys(none.root()).empty());
+}
+
+// A section is found by a non-empty name only: every entry of a section
+// without a name opens one of its own, and each takes a slot of the ten.
+TEST(CapCommon, UnnamedSectionsAreNeverFoundAgain)
+{
+    const cap_group unnamed{"", ""}, named{"", "named"}, child{"named", "child"};
+    std::vector<cap_entry> e = {
+        entry("first", "<1>A", &unnamed), entry("inNamed", "<2>B", &named), entry("second", "<3>C", &unnamed),
+        entry("inChild", "<4>D", &child),
+    };
+    // Four sections so far (the child one under "named"); six more fill the
+    // table, and the next one has no room.
+    for (int k = 0; k < 6; ++k)
+        e.push_back(entry("filler" + std::to_string(k), "<5>E", &unnamed));
+    e.push_back(entry("noRoom", "<6>F", &unnamed));
+    const test::Json doc = RENDER(get_cap_common_json(e.data(), static_cast<int32_t>(e.size()), d, n));
+    const Keys keys = test::keys(doc.root());
+    ASSERT_EQ(keys.size(), 9u);
+    EXPECT_EQ(keys[0], "");
+    EXPECT_EQ(keys[1], "named");
+    EXPECT_EQ(keys[2], "");
+    const cJSON *first = doc.root()->child;
+    test::expect_members(first, {O("first")});
+    test::expect_members(first->next, {O("inNamed"), O("child")});
+    test::expect_members(first->next->next, {O("second")});
+    test::expect_members(test::member(doc["named"], "child"), {O("inChild")});
+    test::expect_members(doc.root()->child->next->next->next, {O("filler0")});
+    for (const cJSON *c = doc.root()->child; c != nullptr; c = c->next)
+        EXPECT_EQ(test::member(c, "noRoom"), nullptr);
 }
 
 // ---- video ----

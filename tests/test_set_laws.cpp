@@ -384,6 +384,14 @@ TEST_P(SetLaws, UnknownKeysAndBadListElementsAreRefused)
 {
     for (size_t i : spread(map_->containers.size(), kMostKeysPerPage)) {
         const Container &c = map_->containers[i];
+        if (!c.steps.empty() && !c.steps.back().key.empty()) {
+            // An object or list under a key given as a number or a text.
+            for (cJSON *wrong : {cJSON_CreateNumber(5), cJSON_CreateString("x")}) {
+                cJSON *replaced = with_value(doc_, c.steps, wrong);
+                expect_refused(print(replaced), c.path, c.list ? "a scalar for a list" : "a scalar for an object");
+                cJSON_Delete(replaced);
+            }
+        }
         cJSON *copy = cJSON_Duplicate(doc_, true);
         cJSON *node = locate(copy, c.steps);
         if (!c.list) {
@@ -406,7 +414,12 @@ TEST_P(SetLaws, UnknownKeysAndBadListElementsAreRefused)
             continue;
         }
         if (c.indexKey.empty()) {
-            // Items matched by place: one more than the page has.
+            // Items matched by place: an element that is not an object.
+            cJSON *scalar = cJSON_Duplicate(doc_, true);
+            cJSON_ReplaceItemInArray(locate(scalar, c.steps), 0, cJSON_CreateNumber(1));
+            expect_refused(print(scalar), c.path + "[0]", "a number for a list element");
+            cJSON_Delete(scalar);
+            // One more than the page has.
             cJSON_AddItemToArray(node, cJSON_CreateObject());
             expect_refused(print(copy), c.path + "[" + std::to_string(c.count) + "]", "an element past the list");
             cJSON_Delete(copy);

@@ -61,9 +61,16 @@ constexpr int32_t kActionSlots = 13;
 
 MW_SETTABLE_PAGE(vca_install_mode, [](auto &a, auto &r) { a("Installation", r.Installation); })
 
-MW_SETTABLE_PAGE(vca_region_entrance, [](auto &a, auto &r) {
-    a("intrusionEnterSens", r.intrusionEnterSens);
-    a("intrusionEnterTracking", r.intrusionEnterTracking);
+namespace {
+
+/* Entering and leaving a region: one rule, its first two keys named after
+   the direction. */
+template <typename A, typename Rule, typename Member>
+void intrusion_rule(A &a, Rule &r, const char *sensitivityKey, Member &sensitivity, const char *trackingKey,
+                    Member &tracking)
+{
+    a(mw::Name::fixed(sensitivityKey), sensitivity);
+    a(mw::Name::fixed(trackingKey), tracking);
     a("scene", r.scene);
     size_filter(a, r);
     detection_info_list(a, r, [&](auto &region, int32_t i) {
@@ -71,18 +78,17 @@ MW_SETTABLE_PAGE(vca_region_entrance, [](auto &a, auto &r) {
         region("detectionObject", r.detectionObject[i]);
     });
     mw::schedule_list(a, r.schedule);
+}
+
+} // namespace
+
+MW_SETTABLE_PAGE(vca_region_entrance, [](auto &a, auto &r) {
+    intrusion_rule(a, r, "intrusionEnterSens", r.intrusionEnterSens, "intrusionEnterTracking",
+                   r.intrusionEnterTracking);
 })
 
 MW_SETTABLE_PAGE(vca_region_exit, [](auto &a, auto &r) {
-    a("intrusionExitSens", r.intrusionExitSens);
-    a("intrusionExitTracking", r.intrusionExitTracking);
-    a("scene", r.scene);
-    size_filter(a, r);
-    detection_info_list(a, r, [&](auto &region, int32_t i) {
-        region("regionEnable", r.regionEnable[i]);
-        region("detectionObject", r.detectionObject[i]);
-    });
-    mw::schedule_list(a, r.schedule);
+    intrusion_rule(a, r, "intrusionExitSens", r.intrusionExitSens, "intrusionExitTracking", r.intrusionExitTracking);
 })
 
 MW_SETTABLE_PAGE(vca_advanced_motion, [](auto &a, auto &r) {

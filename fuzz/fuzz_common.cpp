@@ -36,18 +36,64 @@ bool is_address(uintptr_t v)
 }
 
 // Records whose pointers may be NULL in the sample: every pointer member is
-// kept as the sample has it (the heuristic below only sees set pointers).
+// kept as the sample has it (the heuristic below only sees set pointers). A
+// caller passes valid pointers or NULL; the bytes around them are the
+// fuzzer's.
 struct PointerMembers {
     const char *page;
-    size_t count;
-    size_t offsets[8];
+    std::vector<size_t> offsets;
 };
-const PointerMembers kPointers[] = {
-    {"get_ptz_control_json", 6,
-     {offsetof(ptz_control_record, tour), offsetof(ptz_control_record, scan), offsetof(ptz_control_record, position),
-      offsetof(ptz_control_record, threeDPositionEnable), offsetof(ptz_control_record, dehumidifyEnable),
-      offsetof(ptz_control_record, pattern)}},
-};
+
+// The pointers of a fisheye display mode: its stream slots and its event
+// stream.
+template <typename Mode>
+void mode_pointers(std::vector<size_t> &out, size_t at)
+{
+    for (size_t s = 0; s < sizeof(Mode::streams) / sizeof(Mode::streams[0]); ++s)
+        out.push_back(at + offsetof(Mode, streams) + s * sizeof(void *));
+    out.push_back(at + offsetof(Mode, event));
+}
+
+std::vector<size_t> fisheye_pointers()
+{
+    using R = video_fisheye_video_general_record;
+    std::vector<size_t> out;
+    mode_pointers<fisheye_mode_2_streams>(out, offsetof(R, mode1O));
+    mode_pointers<fisheye_mode_2_streams>(out, offsetof(R, mode1P));
+    mode_pointers<fisheye_mode_2_streams>(out, offsetof(R, mode2P));
+    mode_pointers<fisheye_mode_4_streams>(out, offsetof(R, mode4R));
+    mode_pointers<fisheye_mode_4_streams>(out, offsetof(R, mode1O3R));
+    mode_pointers<fisheye_mode_4_streams>(out, offsetof(R, mode1P3R));
+    mode_pointers<fisheye_mode_5_streams>(out, offsetof(R, mode1O1P3R));
+    return out;
+}
+
+// The general capability page's state is its entry count and the entries,
+// each led by its section pointer (NULL: under the root).
+std::vector<size_t> capability_group_pointers(size_t stateSize)
+{
+    struct Layout {
+        int32_t count;
+        cap_entry entries[1];
+    };
+    std::vector<size_t> out;
+    for (size_t at = offsetof(Layout, entries); at + sizeof(cap_entry) <= stateSize; at += sizeof(cap_entry))
+        out.push_back(at + offsetof(cap_entry, group));
+    return out;
+}
+
+const std::vector<PointerMembers> &pointer_members()
+{
+    static const std::vector<PointerMembers> all = {
+        {"get_ptz_control_json",
+         {offsetof(ptz_control_record, tour), offsetof(ptz_control_record, scan), offsetof(ptz_control_record, position),
+          offsetof(ptz_control_record, threeDPositionEnable), offsetof(ptz_control_record, dehumidifyEnable),
+          offsetof(ptz_control_record, pattern)}},
+        {"get_video_fisheye_video_general_json", fisheye_pointers()},
+        {"get_cap_common_json", capability_group_pointers(catalog_find("get_cap_common_json")->page->stateSize)},
+    };
+    return all;
+}
 
 } // namespace
 
@@ -99,10 +145,10 @@ void fill_state(const CatalogEntry &entry, std::vector<unsigned char> &state, co
     memcpy(state.data(), bytes, size < state.size() ? size : state.size());
     for (size_t at : found->second)
         memcpy(state.data() + at, sample.data() + at, sizeof(uintptr_t));
-    for (const PointerMembers &p : kPointers)
+    for (const PointerMembers &p : pointer_members())
         if (strcmp(p.page, entry.name) == 0)
-            for (size_t i = 0; i < p.count; ++i)
-                memcpy(state.data() + p.offsets[i], sample.data() + p.offsets[i], sizeof(void *));
+            for (size_t at : p.offsets)
+                memcpy(state.data() + at, sample.data() + at, sizeof(void *));
 }
 
 } // namespace fuzz

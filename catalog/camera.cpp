@@ -405,6 +405,16 @@ camera_fish_view_field_record sample_camera_fish_view_field()
     return camera_fish_view_field_record{180};
 }
 
+// The capability flags page shows the group its record selects (100 to 109):
+// the selector is the page's argument.
+struct AllCapabilityPage
+    : ReadOnlyRecordPage<camera_all_capability_record, kept<camera_all_capability_record, sample_all_capability>,
+                         get_camera_all_capability_json, schema_camera_all_capability_json> {
+    static int32_t *group(void *state) { return &static_cast<camera_all_capability_record *>(state)->group; }
+    static constexpr PageOps ops{sizeof(camera_all_capability_record), initial, render, schema, nullptr, group,
+                                 "group"};
+};
+
 const CatalogEntry entries[] = {
     MW_SETTABLE_ENTRY(camera_setting, "image settings, weekly image-mode task lists and day/night schedule",
                       (kept<camera_setting_record, sample_setting>)),
@@ -446,8 +456,8 @@ const CatalogEntry entries[] = {
                        (kept<camera_fish_presets_record, sample_fish_presets>)),
     MW_SETTABLE_ENTRY(camera_fish_view_field, "the fisheye's field of view",
                       (kept<camera_fish_view_field_record, sample_camera_fish_view_field>)),
-    MW_READ_ONLY_ENTRY(camera_all_capability, "one group of capability flags, selected by its code", "what the camera offers",
-                       (kept<camera_all_capability_record, sample_all_capability>)),
+    page_entry<AllCapabilityPage>("get_camera_all_capability_json",
+                                  "one group of capability flags, selected by its code", "what the camera offers"),
 };
 
 } // namespace

@@ -162,6 +162,12 @@ class Pages(unittest.TestCase):
         for bad in ['x', '', '1.5', '99999999999']:
             status, body, _ = self.server.request('GET', '/api/event_notify?format=json&eventType=' + bad)
             self.assertEqual((status, body), (400, FORMAT_ERROR('eventType')), bad)
+        # The capability flags page shows the group its argument selects.
+        _, ptz, _ = self.server.request('GET', '/api/camera_all_capability?format=json&group=100')
+        _, events, _ = self.server.request('GET', '/api/camera_all_capability?format=json&group=108')
+        self.assertIn('ptzControl', json.loads(ptz))
+        self.assertIn('audioEvent', json.loads(events))
+        self.assertNotIn('ptzControl', json.loads(events))
         # A count argument bounds the report.
         _, two, _ = self.server.request('GET', '/api/lpr_last_data?format=json&count=2')
         self.assertIn('plate_1', json.loads(two))

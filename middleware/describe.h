@@ -66,7 +66,7 @@
  * server's own loose tools: they match keys without regard to case, truncate
  * numbers and let a text index match 0, so In reads members itself.
  *
- * Pages are declared with MW_PAGE / MW_SETTABLE_PAGE (internal.h), which
+ * Pages are declared with MW_SETTABLE_PAGE / MW_READ_ONLY_PAGE (internal.h), which
  * give the serializer, the set function and the schema function.
  */
 #ifndef MIDDLEWARE_DESCRIBE_H

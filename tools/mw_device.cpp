@@ -354,6 +354,8 @@ MHD_Result answer_page(struct MHD_Connection *connection, Page &page, bool schem
             *ops.argument(copy.data()) = value;
         const int32_t rc = schema ? ops.schema(copy.data(), renderBuffer.data(), kRenderBuffer)
                                   : ops.render(copy.data(), renderBuffer.data(), kRenderBuffer);
+        if (rc != 0 && argument == Argument::given) // a selector with no slot: the page refuses it
+            return reply(connection, MHD_HTTP_BAD_REQUEST, format_error(ops.argumentName));
         if (rc != 0)
             return reply(connection, MHD_HTTP_INTERNAL_SERVER_ERROR, error_body("the page could not be rendered"));
         return reply(connection, MHD_HTTP_OK, renderBuffer.data());

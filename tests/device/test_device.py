@@ -159,7 +159,7 @@ class Pages(unittest.TestCase):
         _, one, _ = self.server.request('GET', '/api/event_notify?format=json&eventType=0')
         self.assertEqual(len(json.loads(every)), 48)
         self.assertEqual(len(json.loads(one)), 1)
-        for bad in ['x', '', '1.5', '99999999999']:
+        for bad in ['x', '', '1.5', '99999999999', '48']:  # 48: past the last event type
             status, body, _ = self.server.request('GET', '/api/event_notify?format=json&eventType=' + bad)
             self.assertEqual((status, body), (400, FORMAT_ERROR('eventType')), bad)
         # The capability flags page shows the group its argument selects.

@@ -381,6 +381,9 @@ MW_API int32_t get_network_sip_alarm_phone_list_json(const network_sip_alarm_pho
                                                      int32_t dstSize);
 MW_API int32_t schema_network_sip_alarm_phone_list_json(const network_sip_alarm_phone_list_record *in, char *dst,
                                                         int32_t dstSize);
+/* A request may clear a phone's number only where no listed phone follows
+   it (clearing would end the list there and hide them): otherwise -1 and
+   {"sipAlarmPhoneList[<i>].phoneNumber": "format error"}, record unchanged. */
 MW_API int32_t set_network_sip_alarm_phone_list_json(network_sip_alarm_phone_list_record *record, const char *body,
                                                      int32_t bodySize, char *dst, int32_t dstSize);
 /* "sipWhiteList": every slot with a number, "phoneIndex" the slot (0..4). */

@@ -6,6 +6,7 @@
 #include "support.h"
 #include "zk_platform.h"
 
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -227,6 +228,58 @@ TEST(NetworkSipAlarmPhones, DurationText)
         test::Json doc(render(get_network_sip_alarm_phone_list_json, r));
         EXPECT_STREQ(cJSON_GetStringValue(test::member(test::element(doc["sipAlarmPhoneList"], 0), "phoneDuration")),
                      c.text);
+    }
+}
+
+// Clearing a number drops that phone; one with listed phones after it would
+// hide them as well, so the request is refused there and nothing changes.
+TEST(NetworkSipAlarmPhones, ClearingANumberMayNotHideTheNextPhones)
+{
+    struct {
+        std::initializer_list<int> filled;
+        std::vector<int> cleared;
+        int refusedAt; // -1: accepted
+        int listedAfter;
+    } cases[] = {
+        {{0, 1, 2}, {0}, 0, 3},       {{0, 1, 2}, {1}, 1, 3},       {{0, 1, 2}, {2}, -1, 2},
+        {{0, 1, 2}, {1, 2}, -1, 1},   {{0, 1, 2}, {0, 1, 2}, -1, 0}, {{0, 1, 2}, {0, 2}, 0, 3},
+        {{0, 1, 2, 3, 4}, {3}, 3, 5}, {{0, 1, 2, 3, 4}, {4}, -1, 4}, {{0, 1, 2, 3, 4}, {2, 4}, 2, 5},
+        // Slot 3 is behind a gap already: clearing slot 1 hides nothing more.
+        {{0, 1, 3}, {1}, -1, 1},      {{0, 1, 3}, {0}, 0, 2},
+    };
+    for (const auto &c : cases) {
+        network_sip_alarm_phone_list_record r = alarm_phones(c.filled);
+        network_sip_alarm_phone_list_record expected = r;
+        std::string body = R"({"sipAlarmPhoneList": [)";
+        for (size_t k = 0; k < c.cleared.size(); ++k)
+            body += (k ? ", " : "") + std::string(R"({"phoneIndex": )") + str(c.cleared[k]) +
+                    R"(, "phoneNumber": "", "phoneName": "renamed"})";
+        body += "]}";
+        SCOPED_TRACE(body);
+        char out[512] = {0};
+        const int32_t rc =
+            set_network_sip_alarm_phone_list_json(&r, body.data(), static_cast<int32_t>(body.size()), out, sizeof out);
+        if (c.refusedAt >= 0) {
+            char refused[512];
+            zk_return_format_error_json(refused, sizeof refused,
+                                        ("sipAlarmPhoneList[" + str(c.refusedAt) + "].phoneNumber").c_str());
+            EXPECT_EQ(rc, -1);
+            EXPECT_STREQ(out, refused);
+        } else {
+            char succeed[512];
+            zk_return_set_request_succeed_json(succeed, sizeof succeed);
+            EXPECT_EQ(rc, 0);
+            EXPECT_STREQ(out, succeed);
+            for (int i : c.cleared) {
+                memset(expected.phones[i].phoneNumber, 0, sizeof expected.phones[i].phoneNumber);
+                put(expected.phones[i].phoneName, "renamed");
+            }
+        }
+        EXPECT_EQ(memcmp(&r, &expected, sizeof r), 0);
+        test::Json doc(render(get_network_sip_alarm_phone_list_json, r));
+        ASSERT_EQ(cJSON_GetArraySize(doc["sipAlarmPhoneList"]), c.listedAfter);
+        for (int i = 0; i < c.listedAfter; ++i)
+            EXPECT_EQ(cJSON_GetNumberValue(test::member(test::element(doc["sipAlarmPhoneList"], i), "phoneIndex")), i);
     }
 }
 

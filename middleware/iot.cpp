@@ -22,31 +22,29 @@ int32_t sensors_in_use(int32_t sensorNum)
     return sensorNum < kSensorSlots ? sensorNum : kSensorSlots;
 }
 
-/* A device's state and the readings of its sensors in use. The device table
-   is the gateway's own, reached through a pointer: a request cannot stage
-   it, so its keys are shown read-only. */
+/* A device's state and the readings of its sensors in use. */
 template <typename A>
 void sensor_info(A &a, const iot_device_entry &device)
 {
-    a.derived("deviceStatus", device.deviceStatus);
-    a.derived("battery", device.battery);
-    a.derived("seen", device.seen);
-    a.derived("sensorNum", device.sensorNum);
+    a("deviceStatus", device.deviceStatus);
+    a("battery", device.battery);
+    a("seen", device.seen);
+    a("sensorNum", device.sensorNum);
     a.list("sensorList", "sensorIndex", [&](auto &l) {
         const int32_t count = sensors_in_use(device.sensorNum);
         for (int32_t s = 0; s < count; ++s) {
             const iot_sensor_entry &sensor = device.sensors[s];
             l.item(s, [&](auto &entry) {
-                entry.derived("sensorId", sensor.sensorId);
-                entry.derived("decimalPlace", sensor.decimalPlace);
-                entry.derived("osh", sensor.osh);
-                entry.derived("osl", sensor.osl);
-                entry.derived("portType", sensor.portType);
-                entry.derived("sensorName", sensor.sensorName);
-                entry.derived("sensorType", sensor.sensorType);
-                entry.derived("showOsd", sensor.showOsd);
-                entry.derived("sign", sensor.sign);
-                entry.derived("unit", sensor.unit);
+                entry("sensorId", sensor.sensorId);
+                entry("decimalPlace", sensor.decimalPlace);
+                entry("osh", sensor.osh);
+                entry("osl", sensor.osl);
+                entry("portType", sensor.portType);
+                entry("sensorName", sensor.sensorName);
+                entry("sensorType", sensor.sensorType);
+                entry("showOsd", sensor.showOsd);
+                entry("sign", sensor.sign);
+                entry("unit", sensor.unit);
             });
         }
     });
@@ -116,7 +114,10 @@ MW_SETTABLE_PAGE(iot_profile_setting, [](auto &a, auto &r) {
     });
 })
 
-MW_SETTABLE_PAGE(iot_devices_management, [](auto &a, auto &r) {
+/* The gateway's devices with their live state and sensor readings: a report.
+   The device table is the gateway's own, reached through a pointer, and the
+   time is the gateway's clock; neither is written through this page. */
+MW_READ_ONLY_PAGE(iot_devices_management, [](auto &a, auto &r) {
     a("systemTime", r.systemTime);
     a.list("deviceList", "index", [&](auto &l) {
         if (r.devices == nullptr)
@@ -126,18 +127,18 @@ MW_SETTABLE_PAGE(iot_devices_management, [](auto &a, auto &r) {
             if (device.deviceName[0] == '\0')
                 continue; // a free slot
             l.item(d, [&](auto &entry) {
-                entry.derived("deviceName", device.deviceName);
-                entry.derived("deviceEUI", device.deviceEUI);
-                entry.derived("deviceProfile", device.deviceProfile);
-                entry.derived("frameCounterEnable", device.frameCounterEnable);
-                entry.derived("deviceAddress", device.deviceAddress);
-                entry.derived("networkSessionKey", device.networkSessionKey);
-                entry.derived("appSessionKey", device.appSessionKey);
-                entry.derived("applicationKey", device.applicationKey);
-                entry.derived("upLinkFrameCnt", device.upLinkFrameCnt);
-                entry.derived("downLinkFrameCnt", device.downLinkFrameCnt);
-                entry.derived("deviceType", device.deviceType);
-                entry.derived("osdFontSize", device.osdFontSize);
+                entry("deviceName", device.deviceName);
+                entry("deviceEUI", device.deviceEUI);
+                entry("deviceProfile", device.deviceProfile);
+                entry("frameCounterEnable", device.frameCounterEnable);
+                entry("deviceAddress", device.deviceAddress);
+                entry("networkSessionKey", device.networkSessionKey);
+                entry("appSessionKey", device.appSessionKey);
+                entry("applicationKey", device.applicationKey);
+                entry("upLinkFrameCnt", device.upLinkFrameCnt);
+                entry("downLinkFrameCnt", device.downLinkFrameCnt);
+                entry("deviceType", device.deviceType);
+                entry("osdFontSize", device.osdFontSize);
                 entry.derived("osdFontColor", mw::Text<32>("%d:%d:%d", device.osdFontColor[0], device.osdFontColor[1],
                                                          device.osdFontColor[2]));
                 entry.object("sensorInfo", [&](auto &info) { sensor_info(info, device); });

@@ -152,12 +152,10 @@ MW_API int32_t set_iot_profile_setting_json(iot_profile_setting_record *record, 
    number as "index", its settings, and "sensorInfo" with the readings of
    sensors 0..sensorNum-1 (none for 0 or a negative count). The sensor list
    stops at a device's 24 sensors, whatever a larger count says. A NULL
-   device table gives an empty "deviceList". */
+   device table gives an empty "deviceList". A report: no set function. */
 MW_API int32_t get_iot_devices_management_json(const iot_devices_management_record *in, char *dst,
                                                int32_t dstSize);
 MW_API int32_t schema_iot_devices_management_json(const iot_devices_management_record *in, char *dst, int32_t dstSize);
-MW_API int32_t set_iot_devices_management_json(iot_devices_management_record *record, const char *body,
-                                               int32_t bodySize, char *dst, int32_t dstSize);
 /* "isExistSensor" and "rulesList": all four rules, each with all eight devices
    (present or not) and seven schedule days. A device's "sensorList" holds
    sensors 0..sensorNum-1 and stops at 24, whatever a larger count says. */

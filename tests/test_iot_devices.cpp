@@ -126,7 +126,8 @@ TEST(IotAlarmSettings, FourRulesOfEightDevicesReadByRuleDeviceSensor)
 {
     auto r = std::make_unique<iot_alarm_settings_record>();
     r->isExistSensor = 1;
-    const int32_t sensorNum[8] = {2, 0, 3, -1, 0, 0, 0, 1};
+    // Counts above a device's 24 sensor slots list the 24 and are shown as stored.
+    const int32_t sensorNum[8] = {2, 0, 3, -1, 25, INT32_MAX, 0, 1};
     std::copy(sensorNum, sensorNum + 8, r->sensorNum);
     for (int rule = 0; rule < 4; ++rule) {
         r->alarmEnable[rule] = 50 + rule;
@@ -154,7 +155,7 @@ TEST(IotAlarmSettings, FourRulesOfEightDevicesReadByRuleDeviceSensor)
         for (int d = 0; d < 8; ++d) {
             const cJSON *device = test::element(devices, d);
             test::expect_members(device, {N("deviceIndex", d), N("sensorNum", sensorNum[d]), A("sensorList")});
-            const int listed = sensorNum[d] > 0 ? sensorNum[d] : 0;
+            const int listed = sensorNum[d] < 1 ? 0 : std::min(sensorNum[d], 24);
             ASSERT_EQ(cJSON_GetArraySize(test::member(device, "sensorList")), listed);
             for (int s = 0; s < listed; ++s) {
                 const int tag = 1000 * rule + 100 * d + s;

@@ -43,16 +43,23 @@ video_general_record general(int32_t count)
     return r;
 }
 
+// How many streams a page lists for a stored count: none below 1, and never
+// more than the page has names for (six, or five on the frame-rate page).
+int listed(int32_t count, int names)
+{
+    return count < 1 ? 0 : (count < names ? count : names);
+}
+
 TEST(VideoStreams, CountPicksTheNamedStreamsAndTheMainStreamHasNoEnable)
 {
-    for (int32_t count : {0, -2, 3, 5, 6}) {
+    for (int32_t count : {0, -2, 3, 5, 6, 7, INT32_MAX}) {
         SCOPED_TRACE("streamCount " + std::to_string(count));
-        const Keys names(kNames, kNames + (count > 0 ? count : 0));
+        const Keys names(kNames, kNames + listed(count, 6));
         const video_general_record g = general(count);
         const test::Json gen = RENDER(get_video_general_json(&g, d, n));
         test::expect_members(gen.root(), {O("streamList"), N("rtspPort", 8554)});
         EXPECT_EQ(test::keys(gen["streamList"]), names);
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < listed(count, 6); ++i) {
             const double b = 1000 * i;
             std::vector<test::Expected> want = {
                 N("width", b + 1), N("height", b + 2), S("url", "/live/ch" + std::to_string(i)),
@@ -71,15 +78,15 @@ TEST(VideoStreams, CountPicksTheNamedStreamsAndTheMainStreamHasNoEnable)
         EXPECT_EQ(test::keys(adv["streamList"]), names);
         EXPECT_EQ(cJSON_GetArraySize(adv["sensorList"]), 2);
 
-        if (count > 5)
-            continue; // the frame-rate page names five streams only
+        // The frame-rate page names five streams only; its count is shown as
+        // stored.
         video_framerate_record f{};
         f.streamCount = count;
         for (int32_t &valid : f.streamValid)
             valid = 1;
         const test::Json fr = RENDER(get_video_framerate_json(&f, d, n));
         Keys want = {"streamCount"};
-        want.insert(want.end(), names.begin(), names.end());
+        want.insert(want.end(), kNames, kNames + listed(count, 5));
         EXPECT_EQ(test::keys(fr.root()), want);
         EXPECT_EQ(cJSON_GetNumberValue(fr["streamCount"]), count);
     }
@@ -121,7 +128,9 @@ TEST(VideoFramerate, ValidStreamsWithTheirCodecGroups)
     video_framerate_record r{};
     r.streamCount = 4;
     const int32_t valid[] = {1, 0, 7, 1}, mjpeg[] = {0, 1, 1, 0};
-    const int32_t sizes[4][3] = {{3, 2, 1}, {1, 1, 1}, {0, 10, 4}, {2, 1, 3}};
+    // A size above the ten resolutions lists ten, a negative one none; both
+    // are shown as stored.
+    const int32_t sizes[4][3] = {{3, 2, 1}, {1, 1, 1}, {0, 10, 4}, {11, -1, 3}};
     for (int i = 0; i < 4; ++i) {
         r.streamValid[i] = valid[i];
         r.mjpegSupport[i] = mjpeg[i];
@@ -139,14 +148,14 @@ TEST(VideoFramerate, ValidStreamsWithTheirCodecGroups)
     test::expect_members(doc.root(), {N("streamCount", 4), O("mainStream"), O("thirdStream"), O("fourthStream")});
     EXPECT_EQ(test::keys(doc["mainStream"]), (Keys{"H264", "H265"}));
     const char *codecs[] = {"H264", "H265", "Mjpeg"};
-    for (int i : {0, 2}) {
+    for (int i : {0, 2, 3}) {
         for (int g = 0; g < 2 + mjpeg[i]; ++g) {
             SCOPED_TRACE(std::string(kNames[i]) + " " + codecs[g]);
             const cJSON *group = test::member(doc[kNames[i]], codecs[g]);
             test::expect_members(group, {N("availableSize", sizes[i][g]), A("resolution")});
             const cJSON *list = test::member(group, "resolution");
-            ASSERT_EQ(cJSON_GetArraySize(list), sizes[i][g]);
-            for (int k = 0; k < sizes[i][g]; ++k) {
+            ASSERT_EQ(cJSON_GetArraySize(list), listed(sizes[i][g], 10));
+            for (int k = 0; k < listed(sizes[i][g], 10); ++k) {
                 const double b = i * 1000 + g * 100 + k;
                 test::expect_members(test::element(list, k),
                                      {N("width", b), N("height", b + 10), N("framerate", b + 20)});

@@ -21,7 +21,7 @@ MW_SETTABLE_PAGE(audio_info, [](auto &a, auto &r) {
     a("externCodecType", r.externCodecType);
 })
 
-MW_READ_ONLY_PAGE(audio_file, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(audio_file, "the files stored on the camera", [](auto &a, auto &r) {
     a("audioFileStorageType", r.audioFileStorageType);
     // Free slots are left out; the used ones keep their slot number.
     for (int32_t i = 0; i < 5; ++i)

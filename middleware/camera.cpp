@@ -69,7 +69,7 @@ void packed_interval(A &a, R &r)
 {
     uint32_t value = r.intervalValue;
     a("intervalValue", value);
-    if constexpr (!std::is_const<R>::value)
+    if (a.writes())
         r.intervalValue = value;
 }
 
@@ -406,7 +406,7 @@ MW_SETTABLE_PAGE(camera_ir_value, [](auto &a, auto &r) {
 
 /* ---- model flags, capability groups, fisheye presets ---- */
 
-MW_READ_ONLY_PAGE(camera_model_general, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(camera_model_general, "what the model offers", [](auto &a, auto &r) {
     a("ioSupport", r.ioSupport);
     a("audioSupport", r.audioSupport);
     a("fisheyeSupport", r.fisheyeSupport);
@@ -427,7 +427,7 @@ MW_READ_ONLY_PAGE(camera_model_general, [](auto &a, auto &r) {
     a("lessDeviceInterface", r.lessDeviceInterface);
 })
 
-MW_READ_ONLY_PAGE(camera_fish_presets, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(camera_fish_presets, "presets are stored by the PTZ pages", [](auto &a, auto &r) {
     // No array here: each used slot becomes a root key named after its
     // id, in slot order.
     for (const ptz_preset_entry &p : r.entries) {
@@ -443,7 +443,7 @@ MW_SETTABLE_PAGE(camera_fish_view_field, [](auto &a, auto &r) {
     a("fisheyeViewField", r.fisheyeViewField);
 })
 
-MW_READ_ONLY_PAGE(camera_all_capability, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(camera_all_capability, "what the camera offers", [](auto &a, auto &r) {
     switch (r.group) {
     case 100: // PTZ control
         a("ptzControl", r.ptzControl);

@@ -285,109 +285,84 @@ const char *bitrate_key(int32_t kbps)
 
 /* The capability pages: what the camera offers, never written by a client.
    The serializers take the entry count beside the record. */
-#define CAP_PAGE(resource, Record, describe)                                                                 \
-    int32_t get_##resource##_json(Record *in, int32_t count, char *dst, int32_t dstSize)                     \
-    {                                                                                                        \
-        return mw::render_page(dst, dstSize, describe(in, count));                                           \
-    }                                                                                                        \
-    int32_t schema_##resource##_json(Record *in, int32_t count, char *dst, int32_t dstSize)                  \
-    {                                                                                                        \
-        return mw::schema_page(dst, dstSize, "get_" #resource "_json", true, describe(in, count));           \
+
+MW_READ_ONLY_PAGE_WITH_COUNT(cap_common, cap_entry, "what the camera offers",
+                             [](auto &a, cap_entry *entries, int32_t count) {
+    if (entries == nullptr)
+        return;
+    const cap_sections plan = plan_sections(entries, count);
+    section_members(a, plan, entries, count, -1);
+})
+
+MW_READ_ONLY_PAGE_WITH_COUNT(cap_general_video, cap_general_video_record, "what the camera offers",
+                             [](auto &a, cap_general_video_record *in, int32_t count) {
+    capability_entries(a, in->entries, mw::bounded_count(count, kVideoEntries), kShortLabel);
+    a.derived("streamCount", in->streamCount);
+    const mw::Text<32> gopRange("%d~%d", in->gopMin, in->gopMax); // the same range for every stream
+    const int32_t streams = mw::bounded_count(in->streamCount, mw::kStreamNameCount);
+    for (int32_t s = 0; s < streams; ++s) {
+        if (in->streamEnable[s] == 0)
+            continue;
+        a.object(mw::Name::fixed(mw::kStreamNames[s]), [&](auto &o) {
+            codec_capability(o, "H264", in->streams[s].h264);
+            codec_capability(o, "H265", in->streams[s].h265);
+            if (in->mjpegSupport[s] != 0)
+                codec_capability(o, "Mjpeg", in->streams[s].mjpeg);
+            const mw::NonzeroValues rates = mw::nonzero_values(in->bitrates[s]);
+            o.derived_numbers("bitrate", rates.values, rates.count);
+            o.derived("gopRange", gopRange);
+        });
     }
+})
 
-namespace {
-
-auto describe_cap_common(cap_entry *entries, int32_t count)
-{
-    return [entries, count](auto &a) {
-        if (entries == nullptr)
-            return;
-        const cap_sections plan = plan_sections(entries, count);
-        section_members(a, plan, entries, count, -1);
-    };
-}
-
-auto describe_cap_general_video(cap_general_video_record *in, int32_t count)
-{
-    return [in, count](auto &a) {
-        capability_entries(a, in->entries, mw::bounded_count(count, kVideoEntries), kShortLabel);
-        a.derived("streamCount", in->streamCount);
-        const mw::Text<32> gopRange("%d~%d", in->gopMin, in->gopMax); // the same range for every stream
-        const int32_t streams = mw::bounded_count(in->streamCount, mw::kStreamNameCount);
-        for (int32_t s = 0; s < streams; ++s) {
-            if (in->streamEnable[s] == 0)
-                continue;
-            a.object(mw::Name::fixed(mw::kStreamNames[s]), [&](auto &o) {
-                codec_capability(o, "H264", in->streams[s].h264);
-                codec_capability(o, "H265", in->streams[s].h265);
-                if (in->mjpegSupport[s] != 0)
-                    codec_capability(o, "Mjpeg", in->streams[s].mjpeg);
-                const mw::NonzeroValues rates = mw::nonzero_values(in->bitrates[s]);
-                o.derived_numbers("bitrate", rates.values, rates.count);
-                o.derived("gopRange", gopRange);
-            });
-        }
-    };
-}
-
-auto describe_cap_audio(cap_audio_record *in, int32_t count)
-{
-    return [in, count](auto &a) {
-        capability_entries(a, in->entries, mw::bounded_count(count, kAudioEntries), kShortLabel);
-        for (int32_t e = 0; e < 5; ++e) {
-            const audio_encoder_cap &enc = in->encoders[e];
-            const char *key = encoder_key(enc.encodeType);
-            if (key == nullptr)
-                continue; // an unknown encoder has no array, so nothing to list
-            a.list(mw::Name::fixed(key), nullptr, [&](auto &l) {
-                const int32_t rates = mw::bounded_count(enc.sampleRateCount, 10);
-                for (int32_t i = 0; i < rates; ++i) {
-                    const int32_t code = enc.sampleRates[i];
-                    l.item([&](auto &item) {
-                        if (code >= 0 && code < 5)
-                            item.derived(mw::Name::fixed(kSampleRates[code]), code); // an unknown code: {}
-                    });
-                }
-            });
-        }
-        for (int32_t t = 0; t < 5; ++t) {
-            const audio_bitrate_cap &table = in->bitrateTables[t];
-            a.list(mw::Name::fixed(kBitrateTables[t]), nullptr, [&](auto &l) {
-                const int32_t rates = mw::bounded_count(table.bitrateCount, 10);
-                for (int32_t i = 0; i < rates; ++i) {
-                    const char *key = bitrate_key(table.bitrates[i]);
-                    l.item([&](auto &item) {
-                        if (key != nullptr)
-                            item.derived(mw::Name::fixed(key), table.bitrates[i]);
-                    });
-                }
-            });
-        }
-    };
-}
-
-auto describe_cap_ptz(cap_ptz_record *in, int32_t count)
-{
-    return [in, count](auto &a) {
-        capability_entries(a, in->entries, mw::bounded_count(count, kPtzEntries), kShortLabel);
-        a.list("specialPresetList", nullptr, [&](auto &l) {
-            for (int32_t p = 0; p < 21; ++p) {
-                const special_preset_entry &preset = in->specialPresets[p];
-                if (preset.id <= 0)
-                    continue;
+MW_READ_ONLY_PAGE_WITH_COUNT(cap_audio, cap_audio_record, "what the camera offers",
+                             [](auto &a, cap_audio_record *in, int32_t count) {
+    capability_entries(a, in->entries, mw::bounded_count(count, kAudioEntries), kShortLabel);
+    for (int32_t e = 0; e < 5; ++e) {
+        const audio_encoder_cap &enc = in->encoders[e];
+        const char *key = encoder_key(enc.encodeType);
+        if (key == nullptr)
+            continue; // an unknown encoder has no array, so nothing to list
+        a.list(mw::Name::fixed(key), nullptr, [&](auto &l) {
+            const int32_t rates = mw::bounded_count(enc.sampleRateCount, 10);
+            for (int32_t i = 0; i < rates; ++i) {
+                const int32_t code = enc.sampleRates[i];
                 l.item([&](auto &item) {
-                    item.derived("id", preset.id);
-                    item.derived("isExist", preset.isExist);
-                    item.derived("name", preset.name);
+                    if (code >= 0 && code < 5)
+                        item.derived(mw::Name::fixed(kSampleRates[code]), code); // an unknown code: {}
                 });
             }
         });
-    };
-}
+    }
+    for (int32_t t = 0; t < 5; ++t) {
+        const audio_bitrate_cap &table = in->bitrateTables[t];
+        a.list(mw::Name::fixed(kBitrateTables[t]), nullptr, [&](auto &l) {
+            const int32_t rates = mw::bounded_count(table.bitrateCount, 10);
+            for (int32_t i = 0; i < rates; ++i) {
+                const char *key = bitrate_key(table.bitrates[i]);
+                l.item([&](auto &item) {
+                    if (key != nullptr)
+                        item.derived(mw::Name::fixed(key), table.bitrates[i]);
+                });
+            }
+        });
+    }
+})
 
-} // namespace
+MW_READ_ONLY_PAGE_WITH_COUNT(cap_ptz, cap_ptz_record, "what the camera offers",
+                             [](auto &a, cap_ptz_record *in, int32_t count) {
+    capability_entries(a, in->entries, mw::bounded_count(count, kPtzEntries), kShortLabel);
+    a.list("specialPresetList", nullptr, [&](auto &l) {
+        for (int32_t p = 0; p < 21; ++p) {
+            const special_preset_entry &preset = in->specialPresets[p];
+            if (preset.id <= 0)
+                continue;
+            l.item([&](auto &item) {
+                item.derived("id", preset.id);
+                item.derived("isExist", preset.isExist);
+                item.derived("name", preset.name);
+            });
+        }
+    });
+})
 
-CAP_PAGE(cap_common, cap_entry, describe_cap_common)
-CAP_PAGE(cap_general_video, cap_general_video_record, describe_cap_general_video)
-CAP_PAGE(cap_audio, cap_audio_record, describe_cap_audio)
-CAP_PAGE(cap_ptz, cap_ptz_record, describe_cap_ptz)

@@ -1,16 +1,167 @@
 /*
- * describe.cpp - what the three archives of a page description do beyond
- * their templates: adding members to the tree, checking a set request's
- * values and keeping its path, and building schema nodes.
+ * describe.cpp - the three archives of a page description (Out renders,
+ * In applies a set request, Shape builds the schema) and the three calls of
+ * a page over them, with the tree-building helpers they share.
  */
 #include "internal.h"
 
+#include <cfloat>
 #include <cstdio>
 #include <cstring>
 
 namespace mw {
 
+/* ---- tree building ---- */
+
+int32_t print_document(cJSON *root, char *dst, int32_t dstSize)
+{
+    char *text = cJSON_Print(root);
+    cJSON_Delete(root);
+    if (text == nullptr)
+        return -1;
+    if (buffer_usable(dst, dstSize))
+        snprintf(dst, static_cast<size_t>(dstSize), "%s", text);
+    cJSON_free(text);
+    return 0;
+}
+
+cJSON *object(cJSON *parent, const char *key)
+{
+    cJSON *child = nullptr;
+    if (parent != nullptr)
+        json_set_element_struct(parent, &child, key);
+    return child;
+}
+
+cJSON *array(cJSON *parent, const char *key)
+{
+    cJSON *child = nullptr;
+    if (parent != nullptr)
+        json_set_array_struct(parent, &child, key);
+    return child;
+}
+
+cJSON *append_object(cJSON *array)
+{
+    if (array == nullptr)
+        return nullptr;
+    cJSON *item = cJSON_CreateObject();
+    if (item != nullptr && !cJSON_AddItemToArray(array, item)) {
+        cJSON_Delete(item);
+        return nullptr;
+    }
+    return item;
+}
+
+void format_into(char *out, size_t size, const char *format, va_list args) { vsnprintf(out, size, format, args); }
+
+PolygonText polygon_text(const int32_t *values, size_t count)
+{
+    PolygonText p;
+    memset(p.text, 0, sizeof p.text);
+    for (size_t j = 0; j < count; ++j) {
+        size_t used = strlen(p.text);
+        snprintf(p.text + used, sizeof p.text - used, "%d:", static_cast<int>(values[j]));
+    }
+    return p;
+}
+
+/* An archive that ignores every verb: the base of the three below. */
+void Items::indexed(int32_t, Fn<Archive &>) {}
+void Items::placed(Fn<Archive &>) {}
+void Archive::number(Name, void *, Num, bool) {}
+void Archive::text(Name, char *, size_t, bool) {}
+void Archive::computed_number(Name, double, bool) {}
+void Archive::computed_text(Name, const char *, size_t) {}
+void Archive::number_array(Name, void *, Num, size_t, bool) {}
+void Archive::computed_numbers(Name, const void *, Num, int32_t) {}
+void Archive::nested(Name, Fn<Archive &>) {}
+void Archive::items(Name, const char *, Fn<Items &>) {}
+void Archive::event_types(int32_t, Fn<Archive &, int32_t>) {}
+void Archive::only_when(bool, Fn<Archive &>) {}
+
 namespace {
+
+/* ---- numbers by kind ---- */
+
+struct Bounds {
+    double low, high;
+};
+
+/* The values a member's C type holds, as doubles: the schema states them and
+   a set request is checked against them. The 64-bit ends are the last doubles
+   inside the type. */
+constexpr Bounds kBounds[] = {
+    {-128.0, 127.0},
+    {0.0, 255.0},
+    {-32768.0, 32767.0},
+    {0.0, 65535.0},
+    {-2147483648.0, 2147483647.0},
+    {0.0, 4294967295.0},
+    {-9223372036854775808.0, 9223372036854774784.0},
+    {0.0, 18446744073709549568.0},
+    {-static_cast<double>(FLT_MAX), static_cast<double>(FLT_MAX)},
+    {-DBL_MAX, DBL_MAX},
+};
+
+const Bounds &bounds(Num kind) { return kBounds[static_cast<int>(kind)]; }
+
+constexpr size_t kWidths[] = {1, 1, 2, 2, 4, 4, 8, 8, 4, 8};
+
+const void *at(const void *values, Num kind, size_t i)
+{
+    return static_cast<const unsigned char *>(values) + i * kWidths[static_cast<int>(kind)];
+}
+
+template <typename T>
+T read_as(const void *p)
+{
+    T v;
+    memcpy(&v, p, sizeof v);
+    return v;
+}
+
+double load(const void *p, Num kind)
+{
+    switch (kind) {
+    case Num::i8: return read_as<int8_t>(p);
+    case Num::u8: return read_as<uint8_t>(p);
+    case Num::i16: return read_as<int16_t>(p);
+    case Num::u16: return read_as<uint16_t>(p);
+    case Num::i32: return read_as<int32_t>(p);
+    case Num::u32: return read_as<uint32_t>(p);
+    case Num::i64: return static_cast<double>(read_as<int64_t>(p));
+    case Num::u64: return static_cast<double>(read_as<uint64_t>(p));
+    case Num::f32: return read_as<float>(p);
+    case Num::f64: break;
+    }
+    return read_as<double>(p);
+}
+
+template <typename T>
+void write_as(void *p, double d)
+{
+    const T v = static_cast<T>(d);
+    memcpy(p, &v, sizeof v);
+}
+
+/* A value already checked against the kind's bounds. */
+void store(void *p, Num kind, double d)
+{
+    switch (kind) {
+    case Num::i8: return write_as<int8_t>(p, d);
+    case Num::u8: return write_as<uint8_t>(p, d);
+    case Num::i16: return write_as<int16_t>(p, d);
+    case Num::u16: return write_as<uint16_t>(p, d);
+    case Num::i32: return write_as<int32_t>(p, d);
+    case Num::u32: return write_as<uint32_t>(p, d);
+    case Num::i64: return write_as<int64_t>(p, d);
+    case Num::u64: return write_as<uint64_t>(p, d);
+    case Num::f32: return write_as<float>(p, d);
+    case Num::f64: break;
+    }
+    write_as<double>(p, d);
+}
 
 /* Marks a member of a set request that a key of the page has read. cJSON
    keeps a node's kind in the low byte of its type and two flags above it;
@@ -57,9 +208,7 @@ cJSON *add_child(cJSON *parent, const char *key, cJSON *child)
     return child;
 }
 
-} // namespace
-
-/* ---- rendering ---- */
+/* ==== rendering: Out ==== */
 
 void out_number(cJSON *o, Name key, double value)
 {
@@ -67,6 +216,8 @@ void out_number(cJSON *o, Name key, double value)
         attach(o, key, cJSON_CreateNumber(value));
 }
 
+/* A text read no further than `capacity` bytes (a field without its NUL is
+   written up to its end). */
 void out_text(cJSON *o, Name key, const char *text, size_t capacity)
 {
     if (o == nullptr)
@@ -75,7 +226,6 @@ void out_text(cJSON *o, Name key, const char *text, size_t capacity)
         attach(o, key, cJSON_CreateString(text));
         return;
     }
-    // A field without its NUL: what the array holds and no more.
     char *copy = static_cast<char *>(cJSON_malloc(capacity + 1));
     if (copy == nullptr)
         return;
@@ -85,21 +235,143 @@ void out_text(cJSON *o, Name key, const char *text, size_t capacity)
     cJSON_free(copy);
 }
 
-cJSON *out_object(cJSON *o, Name key) { return object(o, key.text); }
-
-cJSON *out_array(cJSON *o, Name key) { return array(o, key.text); }
-
-cJSON *out_append_object(cJSON *list) { return append_object(list); }
-
 void out_append_number(cJSON *list, double value)
 {
     if (list != nullptr)
         add_child(list, nullptr, cJSON_CreateNumber(value));
 }
 
-/* ---- applying a set request ---- */
+class Out final : public Archive {
+public:
+    explicit Out(cJSON *o) : o_(o) {}
 
-Session::~Session() { cJSON_Delete(current_); }
+    void number(Name key, void *field, Num kind, bool) override { out_number(o_, key, load(field, kind)); }
+    void text(Name key, char *field, size_t capacity, bool) override { out_text(o_, key, field, capacity); }
+    void computed_number(Name key, double value, bool) override { out_number(o_, key, value); }
+    void computed_text(Name key, const char *text, size_t capacity) override { out_text(o_, key, text, capacity); }
+    void number_array(Name key, void *values, Num kind, size_t count, bool) override
+    {
+        cJSON *list = mw::array(o_, key.text);
+        for (size_t i = 0; i < count; ++i)
+            out_append_number(list, load(at(values, kind, i), kind));
+    }
+    void computed_numbers(Name key, const void *values, Num kind, int32_t count) override
+    {
+        cJSON *list = mw::array(o_, key.text);
+        for (int32_t i = 0; i < count; ++i)
+            out_append_number(list, load(at(values, kind, static_cast<size_t>(i)), kind));
+    }
+    void nested(Name key, Fn<Archive &> fill) override
+    {
+        Out sub(mw::object(o_, key.text));
+        fill(sub);
+    }
+    void items(Name key, const char *indexKey, Fn<Items &> fill) override
+    {
+        List l(mw::array(o_, key.text), indexKey);
+        fill(l);
+    }
+    void event_types(int32_t selector, Fn<Archive &, int32_t> fill) override
+    {
+        for (int32_t type = selector >= 0 ? selector : 0; type <= (selector >= 0 ? selector : kLastAlarmEventType);
+             ++type) {
+            Out sub(mw::object(o_, getAlarmEventTypeString(type)));
+            fill(sub, type);
+        }
+    }
+    void only_when(bool cond, Fn<Archive &> fill) override
+    {
+        if (cond)
+            fill(*this);
+    }
+
+private:
+    class List final : public Items {
+    public:
+        List(cJSON *array, const char *indexKey) : array_(array), indexKey_(indexKey) {}
+        void indexed(int32_t index, Fn<Archive &> fill) override
+        {
+            Out sub(append_object(array_));
+            out_number(sub.o_, Name::fixed(indexKey_), static_cast<double>(index));
+            fill(sub);
+        }
+        void placed(Fn<Archive &> fill) override
+        {
+            Out sub(append_object(array_));
+            fill(sub);
+        }
+
+    private:
+        cJSON *array_;
+        const char *indexKey_;
+    };
+
+    cJSON *o_;
+};
+
+cJSON *render_tree(const Page &page, void *const *inputs)
+{
+    cJSON *root = cJSON_CreateObject();
+    Out out(root);
+    page.walk(out, inputs);
+    return root;
+}
+
+/* ==== applying a set request: In ==== */
+
+/* What one set request carries through its description: the refusal (the
+   first one stops the walk), the path to where the walk stands, and the
+   current document, built only when a read-only key must be compared with
+   it. */
+class Session {
+public:
+    Session(const Page &page, void *const *current) : page_(page), current_inputs_(current) {}
+    ~Session() { cJSON_Delete(current_); }
+    Session(const Session &) = delete;
+    Session &operator=(const Session &) = delete;
+
+    bool failed() const { return failed_; }
+    const char *refused_key() const { return error_; }
+
+    cJSON *take(cJSON *object, Name key);
+    void refuse(const char *key);
+
+    static bool number_fits(const cJSON *v, double low, double high, bool integral, double *out);
+    static bool text_fits(const cJSON *v, size_t capacity);
+    static void copy_text(char *field, size_t capacity, const cJSON *v);
+    void check_derived(cJSON *given, const char *key, const cJSON &computed);
+
+    size_t enter(const char *key);
+    size_t enter_item(const char *indexKey, int32_t index);
+    void leave(size_t mark) { depth_ = mark; }
+
+    bool check_list(cJSON *array, const char *indexKey);
+    cJSON *element(cJSON *array, const char *indexKey, int32_t index);
+    void refuse_unmatched(cJSON *array, const char *indexKey);
+    void refuse_unread(cJSON *object);
+
+private:
+    struct Step {
+        const char *key;      // nullptr for a list element
+        const char *indexKey; // a list element's index key (nullptr: by place)
+        int32_t index;
+    };
+    static constexpr size_t kMaxDepth = 16;
+
+    const cJSON *current_at(const char *key);
+    void write_path(char *out, size_t size, const char *key) const;
+
+    cJSON *last_object_ = nullptr; // where take() found its last member
+    cJSON *last_found_ = nullptr;
+    const Page &page_;
+    void *const *current_inputs_;
+    cJSON *current_ = nullptr;
+    bool current_built_ = false;
+    bool failed_ = false;
+    Step steps_[kMaxDepth];
+    size_t depth_ = 0;
+    char error_[512] = {0};
+};
 
 cJSON *Session::take(cJSON *object, Name key)
 {
@@ -194,7 +466,7 @@ const cJSON *Session::current_at(const char *key)
 {
     if (!current_built_) {
         current_built_ = true;
-        current_ = build_current_ != nullptr ? build_current_(context_) : nullptr;
+        current_ = render_tree(page_, current_inputs_);
     }
     const cJSON *node = current_;
     for (size_t i = 0; i < depth_ && node != nullptr; ++i) {
@@ -311,13 +583,179 @@ void Session::refuse_unread(cJSON *object)
     }
 }
 
-void In::check_text(Name key, const char *text, size_t capacity)
+class In final : public Archive {
+public:
+    In(Session &s, cJSON *o) : Archive(true), s_(s), o_(o) {}
+
+    void number(Name key, void *field, Num kind, bool writable) override
+    {
+        if (!writable) {
+            computed_number(key, load(field, kind), is_integral(kind));
+            return;
+        }
+        cJSON *v = s_.take(o_, key);
+        double d = 0;
+        if (v == nullptr)
+            return;
+        if (!Session::number_fits(v, bounds(kind).low, bounds(kind).high, is_integral(kind), &d)) {
+            s_.refuse(key.text);
+            return;
+        }
+        store(field, kind, d);
+    }
+    void text(Name key, char *field, size_t capacity, bool writable) override
+    {
+        if (!writable) {
+            computed_text(key, field, capacity);
+            return;
+        }
+        cJSON *v = s_.take(o_, key);
+        if (v == nullptr)
+            return;
+        if (!Session::text_fits(v, capacity)) {
+            s_.refuse(key.text);
+            return;
+        }
+        Session::copy_text(field, capacity, v);
+    }
+    void computed_number(Name key, double value, bool) override
+    {
+        if (cJSON *v = s_.take(o_, key)) {
+            cJSON computed{};
+            computed.type = cJSON_Number;
+            computed.valuedouble = value;
+            s_.check_derived(v, key.text, computed);
+        }
+    }
+    void computed_text(Name key, const char *text, size_t capacity) override;
+    void number_array(Name key, void *values, Num kind, size_t count, bool writable) override
+    {
+        if (!writable) {
+            computed_numbers(key, values, kind, static_cast<int32_t>(count));
+            return;
+        }
+        cJSON *v = s_.take(o_, key);
+        if (v == nullptr)
+            return;
+        // Every element is checked before any is written.
+        bool fits = cJSON_IsArray(v) && cJSON_GetArraySize(v) == static_cast<int>(count);
+        double d = 0;
+        for (cJSON *e = fits ? v->child : nullptr; fits && e != nullptr; e = e->next)
+            fits = Session::number_fits(e, bounds(kind).low, bounds(kind).high, is_integral(kind), &d);
+        if (!fits) {
+            s_.refuse(key.text);
+            return;
+        }
+        size_t i = 0;
+        for (cJSON *e = v->child; e != nullptr; e = e->next, ++i)
+            store(const_cast<void *>(at(values, kind, i)), kind, e->valuedouble);
+    }
+    void computed_numbers(Name key, const void *values, Num kind, int32_t count) override
+    {
+        cJSON *v = s_.take(o_, key);
+        if (v == nullptr)
+            return;
+        bool same = cJSON_IsArray(v) && cJSON_GetArraySize(v) == count;
+        int32_t i = 0;
+        for (cJSON *e = same ? v->child : nullptr; same && e != nullptr; e = e->next, ++i)
+            same = cJSON_IsNumber(e) && e->valuedouble == load(at(values, kind, static_cast<size_t>(i)), kind);
+        if (!same)
+            s_.refuse(key.text);
+    }
+    void nested(Name key, Fn<Archive &> fill) override
+    {
+        cJSON *v = s_.take(o_, key);
+        if (v == nullptr)
+            return;
+        if (!cJSON_IsObject(v)) {
+            s_.refuse(key.text);
+            return;
+        }
+        const size_t mark = s_.enter(key.text);
+        In sub(s_, v);
+        fill(sub);
+        sub.finish();
+        s_.leave(mark);
+    }
+    void items(Name key, const char *indexKey, Fn<Items &> fill) override
+    {
+        cJSON *v = s_.take(o_, key);
+        if (v == nullptr)
+            return;
+        if (!cJSON_IsArray(v)) {
+            s_.refuse(key.text);
+            return;
+        }
+        const size_t mark = s_.enter(key.text);
+        if (s_.check_list(v, indexKey)) {
+            List l(s_, v, indexKey);
+            fill(l);
+            s_.refuse_unmatched(v, indexKey);
+        }
+        s_.leave(mark);
+    }
+    /* Any event type named in the request, whatever the record selects. */
+    void event_types(int32_t, Fn<Archive &, int32_t> fill) override
+    {
+        for (int32_t type = 0; type <= kLastAlarmEventType && !s_.failed(); ++type) {
+            auto one = [&](Archive &sub) { fill(sub, type); };
+            nested(Name::fixed(getAlarmEventTypeString(type)), Fn<Archive &>(one));
+        }
+    }
+    void only_when(bool cond, Fn<Archive &> fill) override
+    {
+        if (cond)
+            fill(*this);
+    }
+
+    /* Refuses a member that no key of the page read. */
+    void finish() { s_.refuse_unread(o_); }
+
+private:
+    class List final : public Items {
+    public:
+        List(Session &s, cJSON *array, const char *indexKey) : s_(s), array_(array), indexKey_(indexKey) {}
+        void indexed(int32_t index, Fn<Archive &> fill) override
+        {
+            apply(s_.element(array_, indexKey_, index), index, fill);
+        }
+        void placed(Fn<Archive &> fill) override
+        {
+            const int32_t place = place_++;
+            apply(s_.element(array_, nullptr, place), place, fill);
+        }
+
+    private:
+        void apply(cJSON *element, int32_t index, Fn<Archive &> &fill)
+        {
+            if (element == nullptr)
+                return;
+            const size_t mark = s_.enter_item(indexKey_, index);
+            In sub(s_, element);
+            if (indexKey_ != nullptr)
+                s_.take(element, Name::fixed(indexKey_));
+            fill(sub);
+            sub.finish();
+            s_.leave(mark);
+        }
+        Session &s_;
+        cJSON *array_;
+        const char *indexKey_;
+        int32_t place_ = 0;
+    };
+
+    Session &s_;
+    cJSON *o_;
+};
+
+void In::computed_text(Name key, const char *text, size_t capacity)
 {
     cJSON *v = s_.take(o_, key);
     if (v == nullptr)
         return;
     char *owned = nullptr;
     if (capacity != SIZE_MAX && memchr(text, '\0', capacity) == nullptr) {
+        // A text that fills its array: compared as what the page shows.
         owned = static_cast<char *>(cJSON_malloc(capacity + 1));
         if (owned == nullptr) {
             s_.refuse(key.text);
@@ -335,8 +773,6 @@ void In::check_text(Name key, const char *text, size_t capacity)
         cJSON_free(owned);
 }
 
-namespace {
-
 bool only_blank(const char *p, const char *end)
 {
     for (; p < end; ++p)
@@ -345,69 +781,109 @@ bool only_blank(const char *p, const char *end)
     return true;
 }
 
-} // namespace
+/* ==== the schema: Shape ==== */
 
-int32_t apply_request(const char *body, int32_t bodySize, char *dst, int32_t dstSize, Staged *records, size_t count,
-                      void (*walk)(Session &, cJSON *, const Staged *, const void *),
-                      cJSON *(*current)(const void *), const void *context)
-{
-    if (!buffer_usable(dst, dstSize))
-        return -1;
-    if (records == nullptr) {
-        zk_return_set_request_faild_json(dst, dstSize);
-        return -1;
+class Shape final : public Archive {
+public:
+    /* Fills the object schema `object` (made by object_schema). With
+       `everyState`, the schema of every document the page can render: keys
+       under a.when are optional, lists take any length, every event type
+       is allowed and none is required. */
+    Shape(cJSON *object, bool readOnly, bool everyState)
+        : properties_(member(object, "properties")), required_(member(object, "required")), readOnly_(readOnly),
+          every_(everyState)
+    {
     }
-    cJSON *root = nullptr;
-    if (body != nullptr && bodySize > 0) {
-        const char *end = nullptr;
-        root = cJSON_ParseWithLengthOpts(body, static_cast<size_t>(bodySize), &end, false);
-        if (root != nullptr && !only_blank(end, body + bodySize)) {
-            cJSON_Delete(root);
-            root = nullptr;
+
+    void number(Name key, void *, Num kind, bool writable) override
+    {
+        number_schema(property(key, !writable), kind);
+    }
+    void text(Name key, char *, size_t capacity, bool writable) override
+    {
+        text_schema(property(key, !writable), capacity);
+    }
+    void computed_number(Name key, double, bool integral) override
+    {
+        kind(property(key, true), integral ? "integer" : "number");
+    }
+    void computed_text(Name key, const char *, size_t) override { kind(property(key, true), "string"); }
+    void number_array(Name key, void *, Num kind, size_t count, bool writable) override
+    {
+        number_schema(number_list(property(key, !writable), static_cast<int32_t>(count), true), kind);
+    }
+    void computed_numbers(Name key, const void *, Num kind, int32_t count) override
+    {
+        this->kind(number_list(property(key, true), count, !every_), is_integral(kind) ? "integer" : "number");
+    }
+    void nested(Name key, Fn<Archive &> fill) override
+    {
+        Shape sub(object_schema(property(key, false)), readOnly_, every_);
+        fill(sub);
+    }
+    void items(Name key, const char *indexKey, Fn<Items &> fill) override
+    {
+        cJSON *schema = property(key, false);
+        List l(*this, list_schema(schema), indexKey);
+        fill(l);
+        close_list(schema);
+    }
+    void event_types(int32_t selector, Fn<Archive &, int32_t> fill) override
+    {
+        const bool one = selector >= 0 && !every_;
+        const bool saved = optional_;
+        optional_ = optional_ || every_;
+        for (int32_t type = one ? selector : 0; type <= (one ? selector : kLastAlarmEventType); ++type) {
+            Shape sub(object_schema(property(Name::fixed(getAlarmEventTypeString(type)), false)), readOnly_, every_);
+            fill(sub, type);
         }
+        optional_ = saved;
     }
-    if (!cJSON_IsObject(root)) {
-        cJSON_Delete(root);
-        zk_return_format_error_json(dst, dstSize, "body");
-        return -1;
+    void only_when(bool cond, Fn<Archive &> fill) override
+    {
+        if (!cond && !every_)
+            return;
+        const bool saved = optional_;
+        optional_ = true;
+        fill(*this);
+        optional_ = saved;
     }
 
-    bool staged = true;
-    for (size_t i = 0; i < count; ++i) {
-        records[i].copy = staged ? cJSON_malloc(records[i].size) : nullptr;
-        if (records[i].copy == nullptr)
-            staged = false;
-        else
-            memcpy(records[i].copy, records[i].record, records[i].size);
-    }
-    int32_t rc = -1;
-    if (!staged) {
-        zk_return_set_request_faild_json(dst, dstSize);
-    } else {
-        Session session(current, context);
-        walk(session, root, records, context);
-        if (session.failed()) {
-            zk_return_format_error_json(dst, dstSize, session.refused_key());
-        } else if (zk_return_set_request_succeed_json(dst, dstSize) == 0) {
-            // Only a request that was answered changes the record.
-            for (size_t i = 0; i < count; ++i)
-                memcpy(records[i].record, records[i].copy, records[i].size);
-            rc = 0;
+    /* The schema object of an object member: type, properties, required,
+       no additional properties. */
+    static cJSON *object_schema(cJSON *schema);
+
+private:
+    class List final : public Items {
+    public:
+        List(const Shape &owner, cJSON *elements, const char *indexKey)
+            : owner_(owner), elements_(elements), indexKey_(indexKey)
+        {
         }
-    }
-    for (size_t i = 0; i < count; ++i)
-        if (records[i].copy != nullptr)
-            cJSON_free(records[i].copy);
-    cJSON_Delete(root);
-    return rc;
-}
+        void indexed(int32_t index, Fn<Archive &> fill) override { add(index, fill); }
+        void placed(Fn<Archive &> fill) override { add(0, fill); }
 
-/* ---- the schema ---- */
+    private:
+        void add(int32_t index, Fn<Archive &> &fill);
+        const Shape &owner_;
+        cJSON *elements_;
+        const char *indexKey_;
+    };
 
-Shape::Shape(cJSON *object, bool readOnly)
-    : properties_(member(object, "properties")), required_(member(object, "required")), readOnly_(readOnly)
-{
-}
+    cJSON *property(Name key, bool derived);
+    static void kind(cJSON *schema, const char *type);
+    static void number_schema(cJSON *schema, Num kind);
+    static void text_schema(cJSON *schema, size_t capacity);
+    static cJSON *number_list(cJSON *schema, int32_t count, bool counted);
+    cJSON *list_schema(cJSON *schema) const;
+    void close_list(cJSON *schema) const;
+
+    cJSON *properties_;
+    cJSON *required_;
+    bool readOnly_;
+    bool every_;
+    bool optional_ = false;
+};
 
 cJSON *Shape::property(Name key, bool derived)
 {
@@ -429,16 +905,16 @@ void Shape::kind(cJSON *schema, const char *type)
         cJSON_AddStringToObject(schema, "type", type);
 }
 
-void Shape::number(cJSON *schema, bool integralOnly, double low, double high)
+void Shape::number_schema(cJSON *schema, Num kind)
 {
     if (schema == nullptr)
         return;
-    kind(schema, integralOnly ? "integer" : "number");
-    cJSON_AddNumberToObject(schema, "minimum", low);
-    cJSON_AddNumberToObject(schema, "maximum", high);
+    Shape::kind(schema, is_integral(kind) ? "integer" : "number");
+    cJSON_AddNumberToObject(schema, "minimum", bounds(kind).low);
+    cJSON_AddNumberToObject(schema, "maximum", bounds(kind).high);
 }
 
-void Shape::text(cJSON *schema, size_t capacity)
+void Shape::text_schema(cJSON *schema, size_t capacity)
 {
     if (schema == nullptr)
         return;
@@ -451,13 +927,16 @@ void Shape::text(cJSON *schema, size_t capacity)
     cJSON_AddStringToObject(schema, "description", note);
 }
 
-cJSON *Shape::number_array(cJSON *schema, int32_t count)
+/* A number array's schema; its length stated when `counted`. */
+cJSON *Shape::number_list(cJSON *schema, int32_t count, bool counted)
 {
     if (schema == nullptr)
         return nullptr;
     kind(schema, "array");
-    cJSON_AddNumberToObject(schema, "minItems", count);
-    cJSON_AddNumberToObject(schema, "maxItems", count);
+    if (counted) {
+        cJSON_AddNumberToObject(schema, "minItems", count);
+        cJSON_AddNumberToObject(schema, "maxItems", count);
+    }
     return add_child(schema, "items", cJSON_CreateObject());
 }
 
@@ -472,18 +951,31 @@ cJSON *Shape::object_schema(cJSON *schema)
     return schema;
 }
 
-cJSON *Shape::list_schema(cJSON *schema)
+/* The elements' schemas: "prefixItems" for the list the record holds now;
+   for every state, element schemas gathered under "anyOf" of "items". */
+cJSON *Shape::list_schema(cJSON *schema) const
 {
     if (schema == nullptr)
         return nullptr;
     kind(schema, "array");
+    if (every_)
+        return add_child(add_child(schema, "items", cJSON_CreateObject()), "anyOf", cJSON_CreateArray());
     cJSON *items = add_child(schema, "prefixItems", cJSON_CreateArray());
     cJSON_AddFalseToObject(schema, "items");
     return items;
 }
 
-void Shape::close_list(cJSON *schema)
+void Shape::close_list(cJSON *schema) const
 {
+    if (every_) {
+        // No element seen: nothing is known of them but that they are objects.
+        cJSON *items = member(schema, "items");
+        if (cJSON_GetArraySize(member(items, "anyOf")) == 0) {
+            cJSON_DeleteItemFromObjectCaseSensitive(items, "anyOf");
+            kind(items, "object");
+        }
+        return;
+    }
     const int count = cJSON_GetArraySize(member(schema, "prefixItems"));
     // An empty list allows no element at all; its schema has no items to
     // list (an empty "prefixItems" is not a valid schema).
@@ -493,20 +985,32 @@ void Shape::close_list(cJSON *schema)
     cJSON_AddNumberToObject(schema, "maxItems", count);
 }
 
-cJSON *Shape::list_item(cJSON *prefixItems, const char *indexKey, int32_t index, bool readOnly)
+void Shape::List::add(int32_t index, Fn<Archive &> &fill)
 {
-    if (prefixItems == nullptr)
-        return nullptr;
-    cJSON *item = object_schema(add_child(prefixItems, nullptr, cJSON_CreateObject()));
-    if (item != nullptr && indexKey != nullptr) {
-        Shape shape(item, readOnly);
-        cJSON *schema = shape.property(Name::copied(indexKey), false);
+    if (elements_ == nullptr)
+        return;
+    cJSON *item = object_schema(add_child(elements_, nullptr, cJSON_CreateObject()));
+    Shape shape(item, owner_.readOnly_, owner_.every_);
+    if (item != nullptr && indexKey_ != nullptr) {
+        cJSON *schema = shape.property(Name::copied(indexKey_), false);
         kind(schema, "integer");
-        cJSON_AddNumberToObject(schema, "const", index);
+        if (!owner_.every_)
+            cJSON_AddNumberToObject(schema, "const", index);
     }
-    return item;
+    fill(shape);
+    // For every state, an element like one already listed is not listed again.
+    if (owner_.every_) {
+        for (cJSON *e = elements_->child; e != nullptr && e != item; e = e->next) {
+            if (cJSON_Compare(e, item, true)) {
+                cJSON_Delete(cJSON_DetachItemViaPointer(elements_, item));
+                break;
+            }
+        }
+    }
 }
 
+/* The root of a page's schema (draft 2020-12), titled with the serializer's
+   name; nullptr when memory runs out. */
 cJSON *schema_root(const char *title, bool readOnly)
 {
     cJSON *root = cJSON_CreateObject();
@@ -521,4 +1025,143 @@ cJSON *schema_root(const char *title, bool readOnly)
     return Shape::object_schema(root);
 }
 
+cJSON *schema_tree(const Page &page, void *const *inputs, bool everyState)
+{
+    const bool readOnly = page.readOnly != nullptr;
+    cJSON *root = schema_root(page.title, readOnly);
+    if (root != nullptr) {
+        Shape shape(root, readOnly, everyState);
+        page.walk(shape, inputs);
+    }
+    return root;
+}
+
+size_t staged_records(const Page &page)
+{
+    size_t n = 0;
+    while (n < 2 && page.sizes[n] != 0)
+        ++n;
+    return n;
+}
+
+} // namespace
+
+/* ==== the three calls of a page ==== */
+
+int32_t render(const Page &page, void *const *inputs, char *dst, int32_t dstSize)
+{
+    if ((page.flags & kPrintsAnyBuffer) == 0 && !buffer_usable(dst, dstSize))
+        return -1;
+    if (page.shown != nullptr && !page.shown(inputs))
+        return (page.flags & kQuietWhenHidden) != 0 ? 0 : -1;
+    return print_document(render_tree(page, inputs), dst, dstSize);
+}
+
+int32_t schema(const Page &page, void *const *inputs, char *dst, int32_t dstSize)
+{
+    if (!buffer_usable(dst, dstSize))
+        return -1;
+    if (page.shown != nullptr && (page.flags & kQuietWhenHidden) == 0 && !page.shown(inputs))
+        return -1;
+    return print_document(schema_tree(page, inputs, false), dst, dstSize);
+}
+
+cJSON *schema_of_every_state(const Page &page, void *const *inputs) { return schema_tree(page, inputs, true); }
+
+int32_t apply(const Page &page, void *const *inputs, const char *body, int32_t bodySize, char *dst, int32_t dstSize)
+{
+    if (!buffer_usable(dst, dstSize))
+        return -1;
+    const size_t count = staged_records(page);
+    bool usable = true;
+    for (size_t i = 0; i < count; ++i)
+        usable = usable && inputs[i] != nullptr;
+    if (usable && (page.flags & kSetOnlyWhenShown) != 0 && page.shown != nullptr)
+        usable = page.shown(inputs);
+    if (!usable) {
+        zk_return_set_request_faild_json(dst, dstSize);
+        return -1;
+    }
+    cJSON *root = nullptr;
+    if (body != nullptr && bodySize > 0) {
+        const char *end = nullptr;
+        root = cJSON_ParseWithLengthOpts(body, static_cast<size_t>(bodySize), &end, false);
+        if (root != nullptr && !only_blank(end, body + bodySize)) {
+            cJSON_Delete(root);
+            root = nullptr;
+        }
+    }
+    if (!cJSON_IsObject(root)) {
+        cJSON_Delete(root);
+        zk_return_format_error_json(dst, dstSize, "body");
+        return -1;
+    }
+
+    // The request is applied to copies of the records; the other inputs (a
+    // caller's text) are passed as they are.
+    void *staged[4] = {};
+    for (size_t i = 0; i < page.arity && i < 4; ++i)
+        staged[i] = inputs[i];
+    bool copied = true;
+    for (size_t i = 0; i < count; ++i) {
+        staged[i] = copied ? cJSON_malloc(page.sizes[i]) : nullptr;
+        if (staged[i] == nullptr)
+            copied = false;
+        else
+            memcpy(staged[i], inputs[i], page.sizes[i]);
+    }
+    int32_t rc = -1;
+    if (!copied) {
+        zk_return_set_request_faild_json(dst, dstSize);
+    } else {
+        Session session(page, inputs);
+        In in(session, root);
+        page.walk(in, staged);
+        in.finish();
+        char path[128];
+        if (session.failed()) {
+            zk_return_format_error_json(dst, dstSize, session.refused_key());
+        } else if (page.accept != nullptr && !page.accept(inputs, staged, path, sizeof path)) {
+            zk_return_format_error_json(dst, dstSize, path);
+        } else if (zk_return_set_request_succeed_json(dst, dstSize) == 0) {
+            // Only a request that was answered changes the record.
+            for (size_t i = 0; i < count; ++i)
+                memcpy(inputs[i], staged[i], page.sizes[i]);
+            rc = 0;
+        }
+    }
+    for (size_t i = 0; i < count; ++i)
+        if (staged[i] != nullptr)
+            cJSON_free(staged[i]);
+    cJSON_Delete(root);
+    return rc;
+}
+
 } // namespace mw
+
+#ifdef MW_PAGE_TABLE
+namespace mw {
+
+namespace {
+PageRow *rows = nullptr;
+} // namespace
+
+bool enroll(PageRow &row)
+{
+    row.next = rows;
+    rows = &row;
+    return true;
+}
+
+const PageRow *page_rows() { return rows; }
+
+const PageRow *find_page(const char *serializer)
+{
+    for (const PageRow *row = rows; row != nullptr; row = row->next)
+        if (strcmp(row->page->title, serializer) == 0)
+            return row;
+    return nullptr;
+}
+
+} // namespace mw
+#endif

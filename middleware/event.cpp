@@ -8,9 +8,6 @@
 
 namespace {
 
-/* The alarm event types of the event-name table: 0..47. */
-constexpr int32_t kLastAlarmEventType = 47;
-
 /* The per-event-type action document: one object per event type, named by
    the event-name table, filled by `fill(object, type)` with the member's keys
    read at that type. A negative selector shows every type in table order,
@@ -22,41 +19,12 @@ constexpr int32_t kLastAlarmEventType = 47;
 template <typename A, typename Record, typename F>
 void action_per_event_type(A &a, const Record &r, F &&fill)
 {
-    a.per_event_type(r.eventType <= kLastAlarmEventType ? r.eventType : -1, fill);
+    a.per_event_type(r.eventType <= mw::kLastAlarmEventType ? r.eventType : -1, fill);
 }
 
 } // namespace
 
-/* A per-event-type page: its serializer and schema refuse a selector above
-   the table with -1 (buffer untouched); its set function applies the types
-   the request names. */
-#define EVENT_ACTION_PAGE(resource, ...)                                                                      \
-    namespace {                                                                                               \
-    constexpr auto describe_##resource = __VA_ARGS__;                                                         \
-    }                                                                                                         \
-    int32_t get_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)                    \
-    {                                                                                                         \
-        if (in->eventType > kLastAlarmEventType)                                                              \
-            return -1;                                                                                        \
-        if (!mw::buffer_usable(dst, dstSize))                                                                 \
-            return -1;                                                                                        \
-        return mw::render_page(dst, dstSize, describe_##resource, *in);                                       \
-    }                                                                                                         \
-    int32_t schema_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)                 \
-    {                                                                                                         \
-        if (in->eventType > kLastAlarmEventType)                                                              \
-            return -1;                                                                                        \
-        if (!mw::buffer_usable(dst, dstSize))                                                                 \
-            return -1;                                                                                        \
-        return mw::schema_page(dst, dstSize, "get_" #resource "_json", false, describe_##resource, *in);      \
-    }                                                                                                         \
-    int32_t set_##resource##_json(resource##_record *record, const char *body, int32_t bodySize, char *dst,   \
-                                  int32_t dstSize)                                                            \
-    {                                                                                                         \
-        return mw::apply_page(describe_##resource, record, body, bodySize, dst, dstSize);                     \
-    }
-
-EVENT_ACTION_PAGE(event_notify, [](auto &a, auto &r) {
+MW_EVENT_TYPE_PAGE(event_notify, [](auto &a, auto &r) {
     action_per_event_type(a, r, [&](auto &type, int32_t i) {
         type("httpNotifyEnable", r.httpNotifyEnable[i]);
         type.list("notifyList", "index", [&](auto &l) {
@@ -76,7 +44,7 @@ EVENT_ACTION_PAGE(event_notify, [](auto &a, auto &r) {
     });
 })
 
-EVENT_ACTION_PAGE(event_record, [](auto &a, auto &r) {
+MW_EVENT_TYPE_PAGE(event_record, [](auto &a, auto &r) {
     action_per_event_type(a, r, [&](auto &type, int32_t i) {
         type("recordEnable", r.recordSettings[i].recordEnable);
         type("recordWay", r.recordSettings[i].recordWay);
@@ -89,8 +57,8 @@ EVENT_ACTION_PAGE(event_record, [](auto &a, auto &r) {
 /* The mail switch is one value for every type, shown in each type's object.
    It is written through the object of the selected type (of "motion" when
    every type is shown); the other objects repeat it. */
-EVENT_ACTION_PAGE(event_snop, [](auto &a, auto &r) {
-    const int32_t mailSlot = r.eventType >= 0 && r.eventType <= kLastAlarmEventType ? r.eventType : 0;
+MW_EVENT_TYPE_PAGE(event_snop, [](auto &a, auto &r) {
+    const int32_t mailSlot = r.eventType >= 0 && r.eventType <= mw::kLastAlarmEventType ? r.eventType : 0;
     action_per_event_type(a, r, [&](auto &type, int32_t i) {
         if (i == mailSlot)
             type("snapSmtpEnable", r.snapSmtpEnable);
@@ -108,7 +76,7 @@ EVENT_ACTION_PAGE(event_snop, [](auto &a, auto &r) {
     });
 })
 
-EVENT_ACTION_PAGE(event_extern_output, [](auto &a, auto &r) {
+MW_EVENT_TYPE_PAGE(event_extern_output, [](auto &a, auto &r) {
     action_per_event_type(a, r, [&](auto &type, int32_t i) {
         type("externOutputEnable", r.externOutputEnable[i]);
         type("externDuration", r.externDuration[i]);
@@ -116,7 +84,7 @@ EVENT_ACTION_PAGE(event_extern_output, [](auto &a, auto &r) {
     });
 })
 
-EVENT_ACTION_PAGE(event_play_audio, [](auto &a, auto &r) {
+MW_EVENT_TYPE_PAGE(event_play_audio, [](auto &a, auto &r) {
     action_per_event_type(a, r, [&](auto &type, int32_t i) {
         type("playAudioEnable", r.playAudioEnable[i]);
         type("audioInterval", r.audioInterval[i]);
@@ -124,11 +92,11 @@ EVENT_ACTION_PAGE(event_play_audio, [](auto &a, auto &r) {
     });
 })
 
-EVENT_ACTION_PAGE(event_alarm_sip_phone, [](auto &a, auto &r) {
+MW_EVENT_TYPE_PAGE(event_alarm_sip_phone, [](auto &a, auto &r) {
     action_per_event_type(a, r, [&](auto &type, int32_t i) { type("alarmSipPhoneEnable", r.alarmSipPhoneEnable[i]); });
 })
 
-EVENT_ACTION_PAGE(event_white_led, [](auto &a, auto &r) {
+MW_EVENT_TYPE_PAGE(event_white_led, [](auto &a, auto &r) {
     action_per_event_type(a, r, [&](auto &type, int32_t i) {
         type("whiteLedEnable", r.whiteLedEnable[i]);
         type("flashMode", r.flashMode[i]);
@@ -143,7 +111,7 @@ EVENT_ACTION_PAGE(event_white_led, [](auto &a, auto &r) {
     });
 })
 
-EVENT_ACTION_PAGE(event_ptz_motion, [](auto &a, auto &r) {
+MW_EVENT_TYPE_PAGE(event_ptz_motion, [](auto &a, auto &r) {
     action_per_event_type(a, r, [&](auto &type, int32_t i) {
         type("ptzMotionEnable", r.ptzMotionEnable[i]);
         type("ptzZoomTimes", r.ptzZoomTimes[i]); // zoom first, though stored after recovery
@@ -151,14 +119,14 @@ EVENT_ACTION_PAGE(event_ptz_motion, [](auto &a, auto &r) {
     });
 })
 
-EVENT_ACTION_PAGE(event_osd_blink, [](auto &a, auto &r) {
+MW_EVENT_TYPE_PAGE(event_osd_blink, [](auto &a, auto &r) {
     action_per_event_type(a, r, [&](auto &type, int32_t i) {
         type("osdBlinkEnable", r.osdBlinkEnable[i]);
         type("osdBlinkTime", r.osdBlinkTime[i]);
     });
 })
 
-EVENT_ACTION_PAGE(event_event_call, [](auto &a, auto &r) {
+MW_EVENT_TYPE_PAGE(event_event_call, [](auto &a, auto &r) {
     action_per_event_type(a, r, [&](auto &type, int32_t i) {
         type("presetEnable", r.presetEnable[i]);
         type("presetId", r.presetId[i]);
@@ -169,7 +137,6 @@ EVENT_ACTION_PAGE(event_event_call, [](auto &a, auto &r) {
     });
 })
 
-#undef EVENT_ACTION_PAGE
 
 /* ==== end alarm actions per event type ==== */
 
@@ -220,24 +187,19 @@ void ftp_server(A &a, Server &s)
     a("videoType", s.videoType);
 }
 
-/* currentType picks the server in use; any other value names none. */
-bool names_a_server(const event_server_ftp_record &r) { return r.currentType == 0 || r.currentType == 1; }
-
-/* The server in use is chosen elsewhere (it decides whose enable byte
-   "ftpEnable" is); this page sets that server's enable byte and both
-   servers' settings. */
-constexpr auto describe_event_server_ftp = [](auto &a, auto &r) {
-    a.derived("currentType", r.currentType);
-    a("ftpEnable", r.servers[r.currentType].enable);
-    a.object("ftpInfo", [&](auto &server) { ftp_server(server, r.servers[0]); });
-    a.object("sftpInfo", [&](auto &server) { ftp_server(server, r.servers[1]); });
-};
+/* currentType picks the server in use; any other value names none, and a
+   record that names none cannot be shown, described or written. */
+bool names_a_server(void *const *inputs)
+{
+    const int32_t type = static_cast<const event_server_ftp_record *>(inputs[0])->currentType;
+    return type == 0 || type == 1;
+}
 
 } // namespace
 
 MW_SETTABLE_PAGE(event_auto_tracking, [](auto &a, auto &r) { a("ptzAutoTrackingEnable", r.ptzAutoTrackingEnable); })
 
-MW_READ_ONLY_PAGE(event_audio_sample_value, [](auto &a, auto &r) { a("audiosampleValue", r.audiosampleValue); })
+MW_READ_ONLY_PAGE(event_audio_sample_value, "live readings", [](auto &a, auto &r) { a("audiosampleValue", r.audiosampleValue); })
 
 MW_SETTABLE_PAGE(cal_region, [](auto &a, auto &r) {
     a("startX", r.startX);
@@ -303,7 +265,7 @@ MW_SETTABLE_PAGE(event_extern_input_info, [](auto &a, auto &r) {
 
 /* The page shows a word when the test mail went out and the mail client's
    error code when it did not. */
-MW_READ_ONLY_PAGE(event_test_smtp, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(event_test_smtp, "the outcome of a test mail", [](auto &a, auto &r) {
     if (r.testState == 1)
         a.derived_text("setState", "succeed");
     else
@@ -326,35 +288,19 @@ MW_SETTABLE_PAGE(event_server_smtp, [](auto &a, auto &r) {
     a("smtpSnapName", r.smtpSnapName);
 })
 
-/* A record whose currentType names no server cannot be shown, described or
-   written: -1 (a set request is answered "failed", the record untouched). */
-int32_t get_event_server_ftp_json(const event_server_ftp_record *in, char *dst, int32_t dstSize)
-{
-    if (!names_a_server(*in))
-        return -1;
-    if (!mw::buffer_usable(dst, dstSize))
-        return -1;
-    return mw::render_page(dst, dstSize, describe_event_server_ftp, *in);
-}
-
-int32_t schema_event_server_ftp_json(const event_server_ftp_record *in, char *dst, int32_t dstSize)
-{
-    if (!names_a_server(*in))
-        return -1;
-    if (!mw::buffer_usable(dst, dstSize))
-        return -1;
-    return mw::schema_page(dst, dstSize, "get_event_server_ftp_json", false, describe_event_server_ftp, *in);
-}
-
-int32_t set_event_server_ftp_json(event_server_ftp_record *record, const char *body, int32_t bodySize, char *dst,
-                                  int32_t dstSize)
-{
-    event_server_ftp_record *usable = record != nullptr && names_a_server(*record) ? record : nullptr;
-    return mw::apply_page(describe_event_server_ftp, usable, body, bodySize, dst, dstSize);
-}
+/* The server in use is chosen elsewhere (it decides whose enable byte
+   "ftpEnable" is); this page sets that server's enable byte and both
+   servers' settings. */
+MW_SETTABLE_RECORD_PAGE(, event_server_ftp, event_server_ftp_record, nullptr,
+                        MW_RULES(names_a_server, nullptr, mw::kSetOnlyWhenShown), [](auto &a, auto &r) {
+    a.derived("currentType", r.currentType);
+    a("ftpEnable", r.servers[r.currentType].enable);
+    a.object("ftpInfo", [&](auto &server) { ftp_server(server, r.servers[0]); });
+    a.object("sftpInfo", [&](auto &server) { ftp_server(server, r.servers[1]); });
+})
 
 /* A summary of switches set on their own pages and of the storage state. */
-MW_READ_ONLY_PAGE(event_global_enable, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(event_global_enable, "a summary of switches set on their own pages, and storage state", [](auto &a, auto &r) {
     a("motionEnable", r.motionEnable);
     a("trackEnable", r.trackEnable);
     a("faceEnable", r.faceEnable);

@@ -25,6 +25,7 @@
 #define MIDDLEWARE_INTERNAL_H
 
 #include "describe.h"
+#include "pages.h"
 
 #include <cstdarg>
 #include <cstddef>
@@ -90,57 +91,151 @@ PolygonText polygon_text(const int32_t *values, size_t count);
 
 /* ---- declaring a page ----
  *
- * A page is declared once with its description (describe.h); the macro gives
- * its serializer get_<resource>_json, its schema function
- * schema_<resource>_json and, for a page a client may write,
- * set_<resource>_json. The record is <resource>_record.
+ * A page is declared once: its names, its records and arguments, whether a
+ * client may write it (and why not), the few rules it adds to the contract,
+ * and its description. The declaration gives its serializer
+ * <prefix>get_<resource>_json, its schema function
+ * <prefix>schema_<resource>_json and, for a page a client may write,
+ * <prefix>set_<resource>_json; the prefix is empty or ware_.
  *
  *     MW_SETTABLE_PAGE(ptz_wiper, [](auto &a, auto &r) {
  *         a("autoWiper", r.autoWiper);
  *         a("status", r.status);
  *     })
  *
- * Pages with other argument lists write the three functions with
- * mw::render_page, mw::apply_page and mw::schema_page. Each tests the buffer
- * before it dereferences a record, so that a refused buffer returns before
- * any record is read. */
-#define MW_PAGE_DESCRIPTION_(resource, Record, ...)                                                          \
+ *     MW_READ_ONLY_PAGE(system_model, "set at the factory", [](auto &a, auto &r) { ... })
+ *
+ * The forms, by what the functions take beside the buffer:
+ *   MW_SETTABLE_PAGE / MW_READ_ONLY_PAGE            the record <resource>_record
+ *   MW_SETTABLE_PAGE_OF / MW_READ_ONLY_PAGE_OF      a record of another type
+ *   MW_SETTABLE_PAGE_WITH                           a record and a second one
+ *   MW_SETTABLE_PAGE_WITH_TEXT                      a record and a caller's text
+ *   MW_READ_ONLY_PAGE_WITH_COUNT                    a record (or entries) and a count
+ *   MW_READ_ONLY_ENTRIES_PAGE                       a count and the entries it counts
+ *   MW_READ_ONLY_VALUE_PAGE                         one number
+ * Each takes `prefix` and `rules` where a page needs them
+ * (MW_RULES(shown, accept, flags), see mw::Page) and names its argument
+ * ("eventType", "count", ...) when a web server passes one.
+ *
+ * Every function tests the buffer before it reads a record, so that a refused
+ * buffer returns before any record is read. */
+
+namespace mw {
+
+/* The inputs of one call, as the description's untyped pointers. */
+template <size_t N>
+struct Inputs {
+    void *p[N];
+    operator void *const *() const { return p; }
+};
+template <typename... T>
+Inputs<sizeof...(T)> inputs(T &...values)
+{
+    return {{input(values)...}};
+}
+
+} // namespace mw
+
+#define MW_UNPAREN_(...) __VA_ARGS__
+#define MW_RULES(shown, accept, flags) (shown, accept, flags)
+#define MW_NO_RULES MW_RULES(nullptr, nullptr, 0)
+
+/* The page object: the description, compiled once, and what the page is. */
+#define MW_PAGE_OBJECT_(prefix, resource, reason, argument, rules, arity, sizes, Types, ...)                  \
     namespace {                                                                                              \
     constexpr auto describe_##resource = __VA_ARGS__;                                                        \
+    void walk_##resource(mw::Archive &a, void *const *inputs)                                                \
+    {                                                                                                        \
+        mw::walk_with<MW_UNPAREN_ Types>(describe_##resource, a, inputs, std::make_index_sequence<arity>{});  \
     }                                                                                                        \
-    int32_t get_##resource##_json(const Record *in, char *dst, int32_t dstSize)                              \
-    {                                                                                                        \
-        if (!mw::buffer_usable(dst, dstSize))                                                                \
-            return -1;                                                                                       \
-        return mw::render_page(dst, dstSize, describe_##resource, *in);                                      \
+    constexpr mw::Page page_##resource = {#prefix "get_" #resource "_json", walk_##resource, reason,         \
+                                          argument, arity, {MW_UNPAREN_ sizes}, MW_UNPAREN_ rules};          \
     }
 
-/* The same for a page over another page's record type (the IoT alarm
-   actions read the event records). */
-#define MW_READ_ONLY_PAGE_OF(resource, Record, ...)                                                          \
-    MW_PAGE_DESCRIPTION_(resource, Record, __VA_ARGS__)                                                      \
-    int32_t schema_##resource##_json(const Record *in, char *dst, int32_t dstSize)                           \
-    {                                                                                                        \
-        if (!mw::buffer_usable(dst, dstSize))                                                                \
-            return -1;                                                                                       \
-        return mw::schema_page(dst, dstSize, "get_" #resource "_json", true, describe_##resource, *in);      \
+#ifdef MW_PAGE_TABLE
+/* The tools' build: each page enrolled in the page table (pages.h) instead
+   of its exported functions. */
+#define MW_PAGE_FUNCTIONS_(prefix, resource, Params, Inputs)                                                  \
+    namespace {                                                                                              \
+    mw::PageRow row_##resource{&page_##resource, #prefix "schema_" #resource "_json", nullptr, nullptr};      \
+    const bool enrolled_##resource = mw::enroll(row_##resource);                                             \
     }
-
-#define MW_SETTABLE_PAGE_OF(resource, Record, ...)                                                           \
-    MW_PAGE_DESCRIPTION_(resource, Record, __VA_ARGS__)                                                      \
-    int32_t schema_##resource##_json(const Record *in, char *dst, int32_t dstSize)                           \
+#define MW_SET_FUNCTION_(prefix, resource, Params, Inputs)                                                    \
+    namespace {                                                                                              \
+    const bool settable_##resource = (row_##resource.setName = #prefix "set_" #resource "_json", true);      \
+    }
+#else
+#define MW_PAGE_FUNCTIONS_(prefix, resource, Params, Inputs)                                                  \
+    int32_t prefix##get_##resource##_json(MW_UNPAREN_ Params, char *dst, int32_t dstSize)                     \
     {                                                                                                        \
-        if (!mw::buffer_usable(dst, dstSize))                                                                \
-            return -1;                                                                                       \
-        return mw::schema_page(dst, dstSize, "get_" #resource "_json", false, describe_##resource, *in);     \
+        return mw::render(page_##resource, mw::inputs Inputs, dst, dstSize);                                  \
     }                                                                                                        \
-    int32_t set_##resource##_json(Record *record, const char *body, int32_t bodySize, char *dst,             \
-                                  int32_t dstSize)                                                           \
+    int32_t prefix##schema_##resource##_json(MW_UNPAREN_ Params, char *dst, int32_t dstSize)                  \
     {                                                                                                        \
-        return mw::apply_page(describe_##resource, record, body, bodySize, dst, dstSize);                    \
+        return mw::schema(page_##resource, mw::inputs Inputs, dst, dstSize);                                  \
     }
+#define MW_SET_FUNCTION_(prefix, resource, Params, Inputs)                                                    \
+    int32_t prefix##set_##resource##_json(MW_UNPAREN_ Params, const char *body, int32_t bodySize, char *dst,  \
+                                          int32_t dstSize)                                                   \
+    {                                                                                                        \
+        return mw::apply(page_##resource, mw::inputs Inputs, body, bodySize, dst, dstSize);                   \
+    }
+#endif
 
-#define MW_READ_ONLY_PAGE(resource, ...) MW_READ_ONLY_PAGE_OF(resource, resource##_record, __VA_ARGS__)
+/* One record. */
+#define MW_RECORD_PAGE_(prefix, resource, Record, reason, argument, rules, ...)                               \
+    MW_PAGE_OBJECT_(prefix, resource, reason, argument, rules, 1, (sizeof(Record), 0), (Record), __VA_ARGS__) \
+    MW_PAGE_FUNCTIONS_(prefix, resource, (const Record *in), (in))
+#define MW_SETTABLE_RECORD_PAGE(prefix, resource, Record, argument, rules, ...)                               \
+    MW_RECORD_PAGE_(prefix, resource, Record, nullptr, argument, rules, __VA_ARGS__)                          \
+    MW_SET_FUNCTION_(prefix, resource, (Record *record), (record))
+#define MW_READ_ONLY_RECORD_PAGE(prefix, resource, Record, reason, argument, rules, ...)                      \
+    MW_RECORD_PAGE_(prefix, resource, Record, reason, argument, rules, __VA_ARGS__)
+
+#define MW_SETTABLE_PAGE_OF(resource, Record, ...)                                                            \
+    MW_SETTABLE_RECORD_PAGE(, resource, Record, nullptr, MW_NO_RULES, __VA_ARGS__)
+#define MW_READ_ONLY_PAGE_OF(resource, Record, reason, ...)                                                   \
+    MW_READ_ONLY_RECORD_PAGE(, resource, Record, reason, nullptr, MW_NO_RULES, __VA_ARGS__)
 #define MW_SETTABLE_PAGE(resource, ...) MW_SETTABLE_PAGE_OF(resource, resource##_record, __VA_ARGS__)
+#define MW_READ_ONLY_PAGE(resource, reason, ...) MW_READ_ONLY_PAGE_OF(resource, resource##_record, reason, __VA_ARGS__)
+
+/* A record whose leading eventType selects the alarm event type shown (every
+   type when negative); a selector past the event-name table cannot be shown
+   or described. A set request takes whatever types it names. */
+#define MW_EVENT_TYPE_PAGE(resource, ...)                                                                     \
+    MW_SETTABLE_RECORD_PAGE(, resource, resource##_record, "eventType",                                       \
+                            MW_RULES(mw::names_an_event_type<resource##_record>, nullptr, 0), __VA_ARGS__)
+
+/* A record and a second one the firmware keeps apart (a week schedule, a
+   polygon table, an extension, a status). */
+#define MW_SETTABLE_PAGE_WITH(prefix, resource, Record, Second, rules, ...)                                   \
+    MW_PAGE_OBJECT_(prefix, resource, nullptr, nullptr, rules, 2, (sizeof(Record), sizeof(Second)),           \
+                    (Record, Second), __VA_ARGS__)                                                           \
+    MW_PAGE_FUNCTIONS_(prefix, resource, (const Record *in, const Second *second), (in, second))              \
+    MW_SET_FUNCTION_(prefix, resource, (Record *record, Second *second), (record, second))
+
+/* A record and a caller's text, shown as it is. */
+#define MW_SETTABLE_PAGE_WITH_TEXT(prefix, resource, Record, text, ...)                                       \
+    MW_PAGE_OBJECT_(prefix, resource, nullptr, nullptr, MW_NO_RULES, 2, (sizeof(Record), 0),                 \
+                    (Record, const char *), __VA_ARGS__)                                                     \
+    MW_PAGE_FUNCTIONS_(prefix, resource, (const Record *in, const char *text), (in, text))                    \
+    MW_SET_FUNCTION_(prefix, resource, (Record *record, const char *text), (record, text))
+
+/* A record the serializer may change (its texts are split in place), or the
+   entries themselves, and the count of entries beside it. */
+#define MW_READ_ONLY_PAGE_WITH_COUNT(resource, Record, reason, ...)                                           \
+    MW_PAGE_OBJECT_(, resource, reason, "count", MW_NO_RULES, 2, (0, 0), (Record *, int32_t), __VA_ARGS__)   \
+    MW_PAGE_FUNCTIONS_(, resource, (Record *in, int32_t count), (in, count))
+
+/* A count and the entries it counts. */
+#define MW_READ_ONLY_ENTRIES_PAGE(resource, Entry, reason, ...)                                               \
+    MW_PAGE_OBJECT_(, resource, reason, "count", MW_NO_RULES, 2, (0, 0), (int32_t, const Entry *),           \
+                    __VA_ARGS__)                                                                             \
+    MW_PAGE_FUNCTIONS_(, resource, (int32_t count, const Entry *entries), (count, entries))
+
+/* One number, named by `argument`. */
+#define MW_READ_ONLY_VALUE_PAGE(resource, argument, reason, ...)                                              \
+    MW_PAGE_OBJECT_(, resource, reason, #argument, MW_NO_RULES, 1, (0, 0), (int32_t), __VA_ARGS__)           \
+    MW_PAGE_FUNCTIONS_(, resource, (int32_t argument), (argument))
 
 #endif /* MIDDLEWARE_INTERNAL_H */

@@ -117,7 +117,7 @@ MW_SETTABLE_PAGE(iot_profile_setting, [](auto &a, auto &r) {
 /* The gateway's devices with their live state and sensor readings: a report.
    The device table is the gateway's own, reached through a pointer, and the
    time is the gateway's clock; neither is written through this page. */
-MW_READ_ONLY_PAGE(iot_devices_management, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(iot_devices_management, "live readings", [](auto &a, auto &r) {
     a("systemTime", r.systemTime);
     a.list("deviceList", "index", [&](auto &l) {
         if (r.devices == nullptr)
@@ -268,4 +268,4 @@ MW_SETTABLE_PAGE_OF(event_iot_osd_blink, event_osd_blink_record, [](auto &a, aut
     });
 })
 
-MW_READ_ONLY_PAGE(event_iot_alarm_status, [](auto &a, auto &r) { a("iotAlarmStatus", r.iotAlarmStatus); })
+MW_READ_ONLY_PAGE(event_iot_alarm_status, "live alarm states", [](auto &a, auto &r) { a("iotAlarmStatus", r.iotAlarmStatus); })

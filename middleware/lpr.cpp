@@ -47,31 +47,10 @@ constexpr auto describe_list_settings = [](auto &a, auto &r, auto &direction) {
 
 } // namespace
 
-/* A page over its record and a second block (the settings' extension, a
-   list's direction), with the serializer's name. */
-#define LPR_PAGE_WITH(resource, Record, Second, describe)                                                     \
-    int32_t get_##resource##_json(const Record *in, const Second *second, char *dst, int32_t dstSize)        \
-    {                                                                                                        \
-        if (!mw::buffer_usable(dst, dstSize))                                                                \
-            return -1;                                                                                       \
-        return mw::render_page(dst, dstSize, describe, *in, *second);                                        \
-    }                                                                                                        \
-    int32_t schema_##resource##_json(const Record *in, const Second *second, char *dst, int32_t dstSize)     \
-    {                                                                                                        \
-        if (!mw::buffer_usable(dst, dstSize))                                                                \
-            return -1;                                                                                       \
-        return mw::schema_page(dst, dstSize, "get_" #resource "_json", false, describe, *in, *second);       \
-    }                                                                                                        \
-    int32_t set_##resource##_json(Record *record, Second *second, const char *body, int32_t bodySize,        \
-                                  char *dst, int32_t dstSize)                                                \
-    {                                                                                                        \
-        return mw::apply_page(describe, record, second, body, bodySize, dst, dstSize);                       \
-    }
-
 /* ---- recognition settings, layout and plate lists ---- */
 
 namespace {
-constexpr auto describe_lpr_settings = [](auto &a, auto &r, auto &ext) {
+constexpr auto describe_settings = [](auto &a, auto &r, auto &ext) {
     // The engine version decides whether the polygons are shown: read-only.
     a.derived("lprVersion", r.lprVersion);
     a("lprEnable", r.lprEnable);
@@ -134,7 +113,7 @@ constexpr auto describe_lpr_settings = [](auto &a, auto &r, auto &ext) {
 };
 } // namespace
 
-LPR_PAGE_WITH(lpr_settings, lpr_settings_record, lpr_settings_ext_record, describe_lpr_settings)
+MW_SETTABLE_PAGE_WITH(, lpr_settings, lpr_settings_record, lpr_settings_ext_record, MW_NO_RULES, describe_settings)
 
 MW_SETTABLE_PAGE(lpr_advanced, [](auto &a, auto &r) {
     a("osdSort", r.osdSort);
@@ -164,9 +143,9 @@ MW_SETTABLE_PAGE(lpr_advanced, [](auto &a, auto &r) {
     a("snapshotResolution", r.snapshotResolution);
 })
 
-LPR_PAGE_WITH(lpr_black_settings, lpr_list_settings_record, lpr_list_direction_record, describe_list_settings)
-LPR_PAGE_WITH(lpr_white_settings, lpr_list_settings_record, lpr_list_direction_record, describe_list_settings)
-LPR_PAGE_WITH(lpr_visitor_settings, lpr_list_settings_record, lpr_list_direction_record, describe_list_settings)
+MW_SETTABLE_PAGE_WITH(, lpr_black_settings, lpr_list_settings_record, lpr_list_direction_record, MW_NO_RULES, describe_list_settings)
+MW_SETTABLE_PAGE_WITH(, lpr_white_settings, lpr_list_settings_record, lpr_list_direction_record, MW_NO_RULES, describe_list_settings)
+MW_SETTABLE_PAGE_WITH(, lpr_visitor_settings, lpr_list_settings_record, lpr_list_direction_record, MW_NO_RULES, describe_list_settings)
 
 MW_SETTABLE_PAGE(lpr_list_sche, [](auto &a, auto &r) {
     for (int rule = 0; rule < 4; ++rule)
@@ -174,7 +153,7 @@ MW_SETTABLE_PAGE(lpr_list_sche, [](auto &a, auto &r) {
             a(mw::Key<32>("ruleTaskday_%d_%d", rule, d), r.ruleTaskday[rule][d]);
 })
 
-MW_READ_ONLY_PAGE(lpr_upload_status, [](auto &a, auto &r) { a("lprUploadStatus", r.lprUploadStatus); })
+MW_READ_ONLY_PAGE(lpr_upload_status, "live upload state", [](auto &a, auto &r) { a("lprUploadStatus", r.lprUploadStatus); })
 
 MW_SETTABLE_PAGE(lpr_wildcards, [](auto &a, auto &r) {
     a("filter", r.filter);
@@ -209,50 +188,6 @@ int32_t lane_region_word(const lpr_radar_config_record &r, size_t lane)
     int32_t word;
     memcpy(&word, reinterpret_cast<const unsigned char *>(&r) + kLaneRegionAt + lane * sizeof word, sizeof word);
     return word;
-}
-
-/* The recent plate reads: the caller's `count` entries as numbered keys. */
-auto describe_last_data(int32_t count, const lpr_last_data_entry *entries)
-{
-    return [count, entries](auto &a) {
-        for (int32_t i = 0; i < count; ++i) {
-            const lpr_last_data_entry &e = entries[i];
-            a.derived(mw::Key<32>("time_%d", i), e.time);
-            a.derived(mw::Key<32>("plate_%d", i), e.plate);
-            a.derived(mw::Key<32>("path_%d", i), e.path);
-            a.derived(mw::Key<32>("region_%d", i), e.region);
-            a.derived(mw::Key<32>("direction_%d", i), e.direction);
-            a.derived(mw::Key<32>("roiId_%d", i), e.roiId);
-            a.derived(mw::Key<32>("plateLeft_%d", i), e.plateLeft);
-            a.derived(mw::Key<32>("plateTop_%d", i), e.plateTop);
-            a.derived(mw::Key<32>("plateRight_%d", i), e.plateRight);
-            a.derived(mw::Key<32>("plateBottom_%d", i), e.plateBottom);
-        }
-    };
-}
-
-auto describe_radar_test(int32_t radarTest)
-{
-    return [radarTest](auto &a) { a.derived("radarTest", radarTest); };
-}
-
-/* The targets the radar tracks now: the caller's `count` entries. */
-auto describe_radar_detect_data(int32_t count, const lpr_radar_detect_entry *entries)
-{
-    return [count, entries](auto &a) {
-        a.list("radarDetectData", nullptr, [&](auto &l) {
-            for (int32_t i = 0; i < count; ++i) {
-                const lpr_radar_detect_entry &e = entries[i];
-                l.item([&](auto &target) {
-                    target.derived("id", e.id);
-                    target.derived("speed", e.speed);
-                    target.derived("xpos", e.xpos);
-                    target.derived("distance", e.distance);
-                    target.derived("direction", e.direction);
-                });
-            }
-        });
-    };
 }
 
 /* The four attribute rules and their weekly schedules. */
@@ -290,15 +225,23 @@ using AttrRules = lpr_attr_event_entry[4];
 
 } // namespace
 
-int32_t get_lpr_last_data_json(int32_t count, const lpr_last_data_entry *entries, char *dst, int32_t dstSize)
-{
-    return mw::render_page(dst, dstSize, describe_last_data(count, entries));
-}
-
-int32_t schema_lpr_last_data_json(int32_t count, const lpr_last_data_entry *entries, char *dst, int32_t dstSize)
-{
-    return mw::schema_page(dst, dstSize, "get_lpr_last_data_json", true, describe_last_data(count, entries));
-}
+/* The recent plate reads: the caller's `count` entries as numbered keys. */
+MW_READ_ONLY_ENTRIES_PAGE(lpr_last_data, lpr_last_data_entry, "recent plate reads",
+                          [](auto &a, int32_t count, const lpr_last_data_entry *entries) {
+    for (int32_t i = 0; i < count; ++i) {
+        const lpr_last_data_entry &e = entries[i];
+        a.derived(mw::Key<32>("time_%d", i), e.time);
+        a.derived(mw::Key<32>("plate_%d", i), e.plate);
+        a.derived(mw::Key<32>("path_%d", i), e.path);
+        a.derived(mw::Key<32>("region_%d", i), e.region);
+        a.derived(mw::Key<32>("direction_%d", i), e.direction);
+        a.derived(mw::Key<32>("roiId_%d", i), e.roiId);
+        a.derived(mw::Key<32>("plateLeft_%d", i), e.plateLeft);
+        a.derived(mw::Key<32>("plateTop_%d", i), e.plateTop);
+        a.derived(mw::Key<32>("plateRight_%d", i), e.plateRight);
+        a.derived(mw::Key<32>("plateBottom_%d", i), e.plateBottom);
+    }
+})
 
 MW_SETTABLE_PAGE(lpr_radar_config, [](auto &a, auto &r) {
     a("enable", r.enable);
@@ -363,48 +306,31 @@ MW_SETTABLE_PAGE(lpr_radar_config, [](auto &a, auto &r) {
     mw::schedule_list(a, r.schedule);
 })
 
-int32_t get_lpr_radar_test_json(int32_t radarTest, char *dst, int32_t dstSize)
-{
-    return mw::render_page(dst, dstSize, describe_radar_test(radarTest));
-}
+MW_READ_ONLY_VALUE_PAGE(lpr_radar_test, radarTest, "a test's result",
+                        [](auto &a, int32_t radarTest) { a.derived("radarTest", radarTest); })
 
-int32_t schema_lpr_radar_test_json(int32_t radarTest, char *dst, int32_t dstSize)
-{
-    return mw::schema_page(dst, dstSize, "get_lpr_radar_test_json", true, describe_radar_test(radarTest));
-}
+/* The targets the radar tracks now: the caller's `count` entries. */
+MW_READ_ONLY_ENTRIES_PAGE(lpr_radar_detect_data, lpr_radar_detect_entry, "live radar targets",
+                          [](auto &a, int32_t count, const lpr_radar_detect_entry *entries) {
+    a.list("radarDetectData", nullptr, [&](auto &l) {
+        for (int32_t i = 0; i < count; ++i) {
+            const lpr_radar_detect_entry &e = entries[i];
+            l.item([&](auto &target) {
+                target.derived("id", e.id);
+                target.derived("speed", e.speed);
+                target.derived("xpos", e.xpos);
+                target.derived("distance", e.distance);
+                target.derived("direction", e.direction);
+            });
+        }
+    });
+})
 
-int32_t get_lpr_radar_detect_data_json(int32_t count, const lpr_radar_detect_entry *entries, char *dst,
-                                       int32_t dstSize)
-{
-    return mw::render_page(dst, dstSize, describe_radar_detect_data(count, entries));
-}
-
-int32_t schema_lpr_radar_detect_data_json(int32_t count, const lpr_radar_detect_entry *entries, char *dst,
-                                          int32_t dstSize)
-{
-    return mw::schema_page(dst, dstSize, "get_lpr_radar_detect_data_json", true,
-                           describe_radar_detect_data(count, entries));
-}
-
-/* Never tests its buffer: it always builds and prints, and the bounded copy
-   writes nothing for a size below 1. */
-int32_t get_lpr_attr_event_json(const lpr_attr_event_entry *rules, const lpr_attr_schedule *schedule, char *dst,
-                                int32_t dstSize)
-{
-    return mw::render_page_unchecked(dst, dstSize, describe_attr_event, *reinterpret_cast<const AttrRules *>(rules),
-                                     *schedule);
-}
-
-int32_t schema_lpr_attr_event_json(const lpr_attr_event_entry *rules, const lpr_attr_schedule *schedule, char *dst,
-                                   int32_t dstSize)
-{
-    return mw::schema_page(dst, dstSize, "get_lpr_attr_event_json", false, describe_attr_event,
-                           *reinterpret_cast<const AttrRules *>(rules), *schedule);
-}
-
-int32_t set_lpr_attr_event_json(lpr_attr_event_entry *rules, lpr_attr_schedule *schedule, const char *body,
-                                int32_t bodySize, char *dst, int32_t dstSize)
-{
-    return mw::apply_page(describe_attr_event, reinterpret_cast<AttrRules *>(rules), schedule, body, bodySize, dst,
-                          dstSize);
-}
+/* The four attribute rules and their weekly schedules, over the caller's
+   pointer to the first rule. Its serializer prints whatever buffer it is
+   given: a size below 1 copies nothing and still yields 0. */
+MW_PAGE_OBJECT_(, lpr_attr_event, nullptr, nullptr, MW_RULES(nullptr, nullptr, mw::kPrintsAnyBuffer), 2,
+                (sizeof(AttrRules), sizeof(lpr_attr_schedule)), (AttrRules, lpr_attr_schedule), describe_attr_event)
+MW_PAGE_FUNCTIONS_(, lpr_attr_event, (const lpr_attr_event_entry *rules, const lpr_attr_schedule *schedule),
+                   (rules, schedule))
+MW_SET_FUNCTION_(, lpr_attr_event, (lpr_attr_event_entry *rules, lpr_attr_schedule *schedule), (rules, schedule))

@@ -12,87 +12,45 @@
 #include <cstring>
 #include <unistd.h>
 
-namespace mw {
-
-int32_t print_document(cJSON *root, char *dst, int32_t dstSize)
-{
-    char *text = cJSON_Print(root);
-    cJSON_Delete(root);
-    if (text == nullptr)
-        return -1;
-    if (buffer_usable(dst, dstSize))
-        snprintf(dst, static_cast<size_t>(dstSize), "%s", text);
-    cJSON_free(text);
-    return 0;
-}
-
-cJSON *object(cJSON *parent, const char *key)
-{
-    cJSON *child = nullptr;
-    if (parent != nullptr)
-        json_set_element_struct(parent, &child, key);
-    return child;
-}
-
-cJSON *array(cJSON *parent, const char *key)
-{
-    cJSON *child = nullptr;
-    if (parent != nullptr)
-        json_set_array_struct(parent, &child, key);
-    return child;
-}
-
-cJSON *append_object(cJSON *array)
-{
-    if (array == nullptr)
-        return nullptr;
-    cJSON *item = cJSON_CreateObject();
-    if (item != nullptr && !cJSON_AddItemToArray(array, item)) {
-        cJSON_Delete(item);
-        return nullptr;
-    }
-    return item;
-}
-
-void format_into(char *out, size_t size, const char *format, va_list args)
-{
-    vsnprintf(out, size, format, args);
-}
-
-PolygonText polygon_text(const int32_t *values, size_t count)
-{
-    PolygonText p;
-    memset(p.text, 0, sizeof p.text);
-    for (size_t j = 0; j < count; ++j) {
-        size_t used = strlen(p.text);
-        snprintf(p.text + used, sizeof p.text - used, "%d:", static_cast<int>(values[j]));
-    }
-    return p;
-}
-
-} // namespace mw
 
 /* ---- reply envelopes ---- */
 
-int32_t zk_return_get_request_empty_json(char *dst, int32_t dstSize)
+namespace {
+
+/* The envelopes are pages of their own, with no record. */
+void set_state(mw::Archive &a, const char *state) { a.derived_text("setState", state); }
+void walk_empty(mw::Archive &, void *const *) {}
+void walk_succeed(mw::Archive &a, void *const *) { set_state(a, "succeed"); }
+void walk_failed(mw::Archive &a, void *const *) { set_state(a, "failed"); }
+// The caller names the key: the tree keeps a copy of it.
+void walk_format_error(mw::Archive &a, void *const *key)
 {
-    return mw::render_page(dst, dstSize, [](auto &) {});
+    a.derived_text(mw::Name::copied(static_cast<const char *>(key[0])), "format error");
 }
+
+constexpr mw::Page envelope(const char *title, mw::Walk walk)
+{
+    return mw::Page{title, walk, "a reply", nullptr, 0, {0, 0}, nullptr, nullptr, 0};
+}
+constexpr mw::Page kEmpty = envelope("zk_return_get_request_empty_json", walk_empty);
+constexpr mw::Page kSucceed = envelope("zk_return_set_request_succeed_json", walk_succeed);
+constexpr mw::Page kFailed = envelope("zk_return_set_request_faild_json", walk_failed);
+constexpr mw::Page kFormatError = envelope("zk_return_format_error_json", walk_format_error);
+
+} // namespace
+
+int32_t zk_return_get_request_empty_json(char *dst, int32_t dstSize) { return mw::render(kEmpty, nullptr, dst, dstSize); }
 
 int32_t zk_return_set_request_succeed_json(char *dst, int32_t dstSize)
 {
-    return mw::render_page(dst, dstSize, [](auto &a) { a.derived_text("setState", "succeed"); });
+    return mw::render(kSucceed, nullptr, dst, dstSize);
 }
 
-int32_t zk_return_set_request_faild_json(char *dst, int32_t dstSize)
-{
-    return mw::render_page(dst, dstSize, [](auto &a) { a.derived_text("setState", "failed"); });
-}
+int32_t zk_return_set_request_faild_json(char *dst, int32_t dstSize) { return mw::render(kFailed, nullptr, dst, dstSize); }
 
 int32_t zk_return_format_error_json(char *dst, int32_t dstSize, const char *key)
 {
-    // The caller names the key: the tree keeps a copy of it.
-    return mw::render_page(dst, dstSize, [key](auto &a) { a.derived_text(mw::Name::copied(key), "format error"); });
+    return mw::render(kFormatError, mw::inputs(key), dst, dstSize);
 }
 
 int32_t zk_check_format_json(const char *query)

@@ -5,6 +5,8 @@
  */
 #include "internal.h"
 
+#include <cstdio>
+
 #include "zk_platform.h"
 
 namespace {
@@ -190,13 +192,13 @@ MW_SETTABLE_PAGE(network_rtmp, [](auto &a, auto &r) {
     a("server", r.server);
 })
 
-MW_READ_ONLY_PAGE(network_anr_info, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(network_anr_info, "live recorder link state", [](auto &a, auto &r) {
     a("anrMac", r.anrMac);
     a("anrIp", r.anrIp);
     a("anrStatus", r.anrStatus);
 })
 
-MW_READ_ONLY_PAGE(network_online_users, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(network_online_users, "who is logged in now", [](auto &a, auto &r) {
     a.list("onlineUserList", nullptr, [&](auto &l) {
         // The list stops at the 30 slots whatever the count says.
         for (int32_t i = 0; i < r.onlineUserCount && i < 30; ++i) {
@@ -242,7 +244,39 @@ MW_SETTABLE_PAGE(network_sip_settings, [](auto &a, auto &r) {
 
 namespace {
 
-constexpr auto describe_network_sip_alarm_phone_list = [](auto &a, auto &r) {
+/* The slots the page lists: those before the first empty number. */
+int32_t listed_phones(const network_sip_alarm_phone_list_record &r)
+{
+    int32_t n = 0;
+    while (n <= 4 && r.phones[n].phoneNumber[0] != '\0')
+        ++n;
+    return n;
+}
+
+/* Clearing a phone's number removes that phone from the list, and since the
+   list ends at the first empty number, clearing one with listed phones after
+   it would hide them too. Such a request is refused at the first cleared
+   number that still has a listed phone after it; clearing the last phones
+   (or every phone) is accepted. */
+bool keeps_listed_phones(void *const *before, void *const *staged, char *path, size_t size)
+{
+    const auto &old = *static_cast<const network_sip_alarm_phone_list_record *>(before[0]);
+    const auto &now = *static_cast<const network_sip_alarm_phone_list_record *>(staged[0]);
+    // Only listed slots can be written, so the list can only have shrunk.
+    const int32_t after = listed_phones(now);
+    for (int32_t j = after + 1; j < listed_phones(old); ++j) {
+        if (now.phones[j].phoneNumber[0] != '\0') {
+            snprintf(path, size, "sipAlarmPhoneList[%d].phoneNumber", static_cast<int>(after));
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+MW_SETTABLE_RECORD_PAGE(, network_sip_alarm_phone_list, network_sip_alarm_phone_list_record, nullptr,
+                        MW_RULES(nullptr, keeps_listed_phones, 0), [](auto &a, auto &r) {
     a.list("sipAlarmPhoneList", "phoneIndex", [&](auto &l) {
         // The phones are kept packed from slot 0: the first empty number ends
         // the list, whatever the later slots hold.
@@ -261,63 +295,7 @@ constexpr auto describe_network_sip_alarm_phone_list = [](auto &a, auto &r) {
             });
         }
     });
-};
-
-/* The slots the page lists: those before the first empty number. */
-int32_t listed_phones(const network_sip_alarm_phone_list_record &r)
-{
-    int32_t n = 0;
-    while (n <= 4 && r.phones[n].phoneNumber[0] != '\0')
-        ++n;
-    return n;
-}
-
-} // namespace
-
-int32_t get_network_sip_alarm_phone_list_json(const network_sip_alarm_phone_list_record *in, char *dst,
-                                              int32_t dstSize)
-{
-    if (!mw::buffer_usable(dst, dstSize))
-        return -1;
-    return mw::render_page(dst, dstSize, describe_network_sip_alarm_phone_list, *in);
-}
-
-int32_t schema_network_sip_alarm_phone_list_json(const network_sip_alarm_phone_list_record *in, char *dst,
-                                                 int32_t dstSize)
-{
-    if (!mw::buffer_usable(dst, dstSize))
-        return -1;
-    return mw::schema_page(dst, dstSize, "get_network_sip_alarm_phone_list_json", false,
-                           describe_network_sip_alarm_phone_list, *in);
-}
-
-/* Clearing a phone's number removes that phone from the list, and since the
-   list ends at the first empty number, clearing one with listed phones after
-   it would hide them too. Such a request is refused at the first cleared
-   number that still has a listed phone after it; clearing the last phones
-   (or every phone) is accepted. The request is applied to a copy first, so a
-   refused one leaves the record as it was. */
-int32_t set_network_sip_alarm_phone_list_json(network_sip_alarm_phone_list_record *record, const char *body,
-                                              int32_t bodySize, char *dst, int32_t dstSize)
-{
-    if (!mw::buffer_usable(dst, dstSize) || record == nullptr)
-        return mw::apply_page(describe_network_sip_alarm_phone_list, record, body, bodySize, dst, dstSize);
-    network_sip_alarm_phone_list_record staged = *record;
-    const int32_t rc = mw::apply_page(describe_network_sip_alarm_phone_list, &staged, body, bodySize, dst, dstSize);
-    if (rc != 0)
-        return rc;
-    // Only listed slots can be written, so the list can only have shrunk.
-    const int32_t before = listed_phones(*record);
-    const int32_t after = listed_phones(staged);
-    for (int32_t j = after + 1; j < before; ++j) {
-        if (staged.phones[j].phoneNumber[0] != '\0') {
-            zk_return_format_error_json(dst, dstSize, mw::Key<64>("sipAlarmPhoneList[%d].phoneNumber", after).c_str());
-            return -1;
-        }
-    }
-    *record = staged;
-    return 0;
-}
+})
 
 MW_SETTABLE_PAGE(network_sip_white_list, [](auto &a, auto &r) {
     a("enable", r.enable);
@@ -336,7 +314,7 @@ MW_SETTABLE_PAGE(network_sip_white_list, [](auto &a, auto &r) {
 
 /* ---- stream addresses, VPN and cellular ---- */
 
-MW_READ_ONLY_PAGE(network_stream_url, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(network_stream_url, "addresses the camera serves", [](auto &a, auto &r) {
     stream_urls(a, "rtspStreamUrl", r.rtspStreamUrl);
     stream_urls(a, "httpStreamUrl", r.httpStreamUrl);
 })
@@ -354,7 +332,7 @@ MW_SETTABLE_PAGE(network_vpn, [](auto &a, auto &r) {
     a("errorCode", r.errorCode);
 })
 
-MW_READ_ONLY_PAGE(network_cellular_info, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(network_cellular_info, "live cellular state", [](auto &a, auto &r) {
     a("enable", r.enable);
     a("apn", r.apn);
     a("userName", r.userName);

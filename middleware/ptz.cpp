@@ -31,7 +31,7 @@ int32_t slots_in_use(int32_t count, const T (&)[N])
 
 /* ---- status and presets ---- */
 
-MW_READ_ONLY_PAGE(ptz_panel_status, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(ptz_panel_status, "what the dome offers", [](auto &a, auto &r) {
     a("irisMode", r.irisMode);
     a("onePatrol", r.onePatrol);
     a("autoHome", r.autoHome);
@@ -42,7 +42,7 @@ MW_READ_ONLY_PAGE(ptz_panel_status, [](auto &a, auto &r) {
     a("manualTrack", r.manualTrack);
 })
 
-MW_READ_ONLY_PAGE(ptz_status, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(ptz_status, "live readings", [](auto &a, auto &r) {
     // The web page shows the text as it stands; the degree sign is an HTML
     // entity on purpose.
     a.derived("temperature", mw::Text<128>("%02f&#176;C", r.temperature));
@@ -50,7 +50,7 @@ MW_READ_ONLY_PAGE(ptz_status, [](auto &a, auto &r) {
     a("fan", r.fan);
 })
 
-MW_READ_ONLY_PAGE(ptz_presets, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(ptz_presets, "presets are stored by moving the dome", [](auto &a, auto &r) {
     a.list("presetInfoList", nullptr, [&](auto &l) {
         for (auto &preset : r.entries) {
             if (preset.id == 0)
@@ -76,7 +76,7 @@ MW_SETTABLE_PAGE(ptz_others, [](auto &a, auto &r) {
     indexed_values(a, "presetLimitList", "presetIsLimit", r.presetIsLimit);
 })
 
-MW_READ_ONLY_PAGE(ptz_run_status, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(ptz_run_status, "live state", [](auto &a, auto &r) {
     // Fisheye views and their tours count from 0.
     a.when(r.isFisheye != 0, [&](auto &o) {
         for (int i = 0; i < 6; ++i)
@@ -103,7 +103,7 @@ MW_SETTABLE_PAGE(ptz_auto_home, [](auto &a, auto &r) {
     a("modeNumber", r.modeNumber);
 })
 
-MW_READ_ONLY_PAGE(ptz_track_point, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(ptz_track_point, "live tracking report", [](auto &a, auto &r) {
     a("personNum", r.personNum);
     a.list("personList", nullptr, [&](auto &l) {
         for (int32_t p = 0; p < slots_in_use(r.personNum, r.id); ++p) {
@@ -119,7 +119,7 @@ MW_READ_ONLY_PAGE(ptz_track_point, [](auto &a, auto &r) {
     });
 })
 
-MW_READ_ONLY_PAGE(ptz_zoom_pos, [](auto &a, auto &r) { indexed_values(a, "zoomposList", "zoompos", r.zoompos); })
+MW_READ_ONLY_PAGE(ptz_zoom_pos, "live motor positions", [](auto &a, auto &r) { indexed_values(a, "zoomposList", "zoompos", r.zoompos); })
 
 /* ---- configuration ---- */
 
@@ -175,7 +175,7 @@ MW_SETTABLE_PAGE(ptz_scheduled_tasks, [](auto &a, auto &r) {
 
 /* The state of the last control request: only the first group that applies
    is reported; a NULL pointer just moves on to the next. */
-MW_READ_ONLY_PAGE(ptz_control, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(ptz_control, "the answer to a control request", [](auto &a, auto &r) {
     const bool tour = r.ptzTourPoint > 0 && r.tour != nullptr;
     const bool position = !tour && r.position != nullptr;
     const bool threeD = !tour && !position && r.threeDPositionEnable != nullptr;

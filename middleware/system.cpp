@@ -7,7 +7,7 @@
 
 /* ---- device information ---- */
 
-MW_READ_ONLY_PAGE(system_information, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(system_information, "device information", [](auto &a, auto &r) {
     a("model", r.model);
     a("mac", r.mac);
     a("firmwareVersion", r.firmwareVersion);
@@ -107,17 +107,17 @@ MW_READ_ONLY_PAGE(system_information, [](auto &a, auto &r) {
     
 })
 
-MW_READ_ONLY_PAGE(system_model, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(system_model, "the unit's model", [](auto &a, auto &r) {
     a("devicevEnder", r.devicevEnder);
     a("name", r.name);
     a("deviceModel", r.deviceModel);
 })
 
-MW_READ_ONLY_PAGE(system_upgrade_info, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(system_upgrade_info, "notice from the update service", [](auto &a, auto &r) {
     a("upgradeInfo", r.upgradeInfo);
 })
 
-MW_READ_ONLY_PAGE(system_online_heart, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(system_online_heart, "live heartbeat", [](auto &a, auto &r) {
     a("softversion", r.softversion);
 })
 
@@ -175,28 +175,15 @@ MW_SETTABLE_PAGE(system_auto_reboot, [](auto &a, auto &r) {
 })
 
 namespace {
-constexpr auto describe_aes_key = [](auto &a, auto &r) {
-    a("key", r.key);
-    a("keyId", r.keyId);
-};
+/* No key: nothing to report, and the caller's buffer stays as it was. */
+bool has_a_key(void *const *inputs) { return static_cast<const system_aes_key_record *>(inputs[0])->key[0] != '\0'; }
 } // namespace
 
-int32_t get_system_aes_key_json(const system_aes_key_record *in, char *dst, int32_t dstSize)
-{
-    if (!mw::buffer_usable(dst, dstSize))
-        return -1;
-    // No key: nothing to report, and the caller's buffer stays as it was.
-    if (in->key[0] == '\0')
-        return 0;
-    return mw::render_page(dst, dstSize, describe_aes_key, *in);
-}
-
-int32_t schema_system_aes_key_json(const system_aes_key_record *in, char *dst, int32_t dstSize)
-{
-    if (!mw::buffer_usable(dst, dstSize))
-        return -1;
-    return mw::schema_page(dst, dstSize, "get_system_aes_key_json", true, describe_aes_key, *in);
-}
+MW_READ_ONLY_RECORD_PAGE(, system_aes_key, system_aes_key_record, "the camera's own key", nullptr,
+                         MW_RULES(has_a_key, nullptr, mw::kQuietWhenHidden), [](auto &a, auto &r) {
+    a("key", r.key);
+    a("keyId", r.keyId);
+})
 
 MW_SETTABLE_PAGE(system_sqa_info, [](auto &a, auto &r) {
     // Anything but 1 is off, and an off page shows nothing else.
@@ -268,7 +255,7 @@ MW_SETTABLE_PAGE(system_remote_logs, [](auto &a, auto &r) {
 
 /* ---- support information ---- */
 
-MW_READ_ONLY_PAGE(system_support_info, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(system_support_info, "support report", [](auto &a, auto &r) {
     a("lessAlarmAudio", r.lessAlarmAudio);
     a("alarmOutput", r.alarmOutput);
     a("supportWhiteledAdjust", r.supportWhiteledAdjust);

@@ -5,56 +5,7 @@
  */
 #include "internal.h"
 
-/* The group's functions are named ware_get_/ware_set_/ware_schema_<resource>.
-   A page over its record alone: */
-#define WARE_PAGE(resource, ...)                                                                             \
-    namespace {                                                                                              \
-    constexpr auto describe_##resource = __VA_ARGS__;                                                        \
-    }                                                                                                        \
-    int32_t ware_get_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)              \
-    {                                                                                                        \
-        if (!mw::buffer_usable(dst, dstSize))                                                                \
-            return -1;                                                                                       \
-        return mw::render_page(dst, dstSize, describe_##resource, *in);                                      \
-    }                                                                                                        \
-    int32_t ware_schema_##resource##_json(const resource##_record *in, char *dst, int32_t dstSize)           \
-    {                                                                                                        \
-        if (!mw::buffer_usable(dst, dstSize))                                                                 \
-            return -1;                                                                                        \
-        return mw::schema_page(dst, dstSize, "ware_get_" #resource "_json", false, describe_##resource, *in); \
-    }                                                                                                        \
-    int32_t ware_set_##resource##_json(resource##_record *record, const char *body, int32_t bodySize,        \
-                                       char *dst, int32_t dstSize)                                           \
-    {                                                                                                        \
-        return mw::apply_page(describe_##resource, record, body, bodySize, dst, dstSize);                    \
-    }
-
-/* A page over its record and a second block kept apart by the firmware (the
-   week schedule, the violation polygons), named `second`. */
-#define WARE_PAGE_WITH(resource, Second, second, ...)                                                        \
-    namespace {                                                                                              \
-    constexpr auto describe_##resource = __VA_ARGS__;                                                        \
-    }                                                                                                        \
-    int32_t ware_get_##resource##_json(const resource##_record *in, const Second *second, char *dst,         \
-                                       int32_t dstSize)                                                      \
-    {                                                                                                        \
-        if (!mw::buffer_usable(dst, dstSize))                                                                \
-            return -1;                                                                                       \
-        return mw::render_page(dst, dstSize, describe_##resource, *in, *second);                             \
-    }                                                                                                        \
-    int32_t ware_schema_##resource##_json(const resource##_record *in, const Second *second, char *dst,      \
-                                          int32_t dstSize)                                                   \
-    {                                                                                                        \
-        if (!mw::buffer_usable(dst, dstSize))                                                                \
-            return -1;                                                                                       \
-        return mw::schema_page(dst, dstSize, "ware_get_" #resource "_json", false, describe_##resource, *in, \
-                               *second);                                                                     \
-    }                                                                                                        \
-    int32_t ware_set_##resource##_json(resource##_record *record, Second *second, const char *body,          \
-                                       int32_t bodySize, char *dst, int32_t dstSize)                         \
-    {                                                                                                        \
-        return mw::apply_page(describe_##resource, record, second, body, bodySize, dst, dstSize);            \
-    }
+/* The group's functions are named ware_get_/ware_set_/ware_schema_<resource>. */
 
 namespace {
 
@@ -92,7 +43,7 @@ void trigger_line_object(A &a, const char *key, Line &line)
 
 /* ---- parking detection and parking settings ---- */
 
-WARE_PAGE_WITH(lpr_parking_detection, week_schedule_block, schedule, [](auto &a, auto &r, auto &week) {
+MW_SETTABLE_PAGE_WITH(ware_, lpr_parking_detection, lpr_parking_detection_record, week_schedule_block, MW_NO_RULES, [](auto &a, auto &r, auto &week) {
     a("enable", r.enable);
     detection_regions(a, r.regions);
     mw::schedule_list(a, week.schedule);
@@ -110,42 +61,17 @@ WARE_PAGE_WITH(lpr_parking_detection, week_schedule_block, schedule, [](auto &a,
     a("saveSnap", r.saveSnap);
 })
 
-namespace {
 /* The area list is the caller's text, shown as it stands. */
-auto describe_parking_general(const char *areaList)
-{
-    return [areaList](auto &a, auto &r) {
-        a("areaType", r.areaType);
-        a("country/region", r.countryRegion);
-        a.derived_text("areaList", areaList);
-        a("nightModeEnable", r.nightModeEnable);
-        a("nightModeLevel", r.nightModeLevel);
-    };
-}
-} // namespace
+MW_SETTABLE_PAGE_WITH_TEXT(ware_, parking_general, parking_general_record, areaList,
+                           [](auto &a, auto &r, const char *areaList) {
+    a("areaType", r.areaType);
+    a("country/region", r.countryRegion);
+    a.derived_text("areaList", areaList);
+    a("nightModeEnable", r.nightModeEnable);
+    a("nightModeLevel", r.nightModeLevel);
+})
 
-int32_t ware_get_parking_general_json(const parking_general_record *in, const char *areaList, char *dst,
-                                      int32_t dstSize)
-{
-    if (!mw::buffer_usable(dst, dstSize))
-        return -1;
-    return mw::render_page(dst, dstSize, describe_parking_general(areaList), *in);
-}
-
-int32_t ware_schema_parking_general_json(const parking_general_record *in, const char *areaList, char *dst,
-                                         int32_t dstSize)
-{
-    return mw::schema_page(dst, dstSize, "ware_get_parking_general_json", false, describe_parking_general(areaList),
-                           *in);
-}
-
-int32_t ware_set_parking_general_json(parking_general_record *record, const char *areaList, const char *body,
-                                      int32_t bodySize, char *dst, int32_t dstSize)
-{
-    return mw::apply_page(describe_parking_general(areaList), record, body, bodySize, dst, dstSize);
-}
-
-WARE_PAGE_WITH(parking_violation, week_schedule_block, schedule, [](auto &a, auto &r, auto &week) {
+MW_SETTABLE_PAGE_WITH(ware_, parking_violation, parking_violation_record, week_schedule_block, MW_NO_RULES, [](auto &a, auto &r, auto &week) {
     a("enable", r.enable);
     a("permitVehicle", r.permitVehicle);
     a("residenceTime", r.residenceTime);
@@ -153,7 +79,7 @@ WARE_PAGE_WITH(parking_violation, week_schedule_block, schedule, [](auto &a, aut
     mw::schedule_list(a, week.schedule);
 })
 
-WARE_PAGE(auto_export, [](auto &a, auto &r) {
+MW_SETTABLE_RECORD_PAGE(ware_, auto_export, auto_export_record, nullptr, MW_NO_RULES, [](auto &a, auto &r) {
     a("enable", r.enable);
     a("weekday", r.weekday);
     a("hour", r.hour);
@@ -165,7 +91,7 @@ WARE_PAGE(auto_export, [](auto &a, auto &r) {
 
 /* ---- vehicle counting, violation management, traffic lights ---- */
 
-WARE_PAGE_WITH(vehicle_count_setting, week_schedule_block, schedule, [](auto &a, auto &r, auto &week) {
+MW_SETTABLE_PAGE_WITH(ware_, vehicle_count_setting, vehicle_count_setting_record, week_schedule_block, MW_NO_RULES, [](auto &a, auto &r, auto &week) {
     a("enable", r.enable);
     a("showInformation", r.showInformation);
     a("countType", r.countType);
@@ -205,7 +131,7 @@ WARE_PAGE_WITH(vehicle_count_setting, week_schedule_block, schedule, [](auto &a,
     mw::schedule_list(a, week.schedule);
 })
 
-WARE_PAGE_WITH(violation_management, violation_polygon_record, polygons, [](auto &a, auto &r, auto &polygons) {
+MW_SETTABLE_PAGE_WITH(ware_, violation_management, violation_management_record, violation_polygon_record, MW_NO_RULES, [](auto &a, auto &r, auto &polygons) {
     a.numbers("laneDirection", r.laneDirection);
     trigger_line_object(a, "stopLine", r.stopLine);
     trigger_line_object(a, "straightTriggerLine", r.straightTriggerLine);
@@ -273,7 +199,7 @@ WARE_PAGE_WITH(violation_management, violation_polygon_record, polygons, [](auto
     });
 })
 
-WARE_PAGE(traffic_light_area, [](auto &a, auto &r) {
+MW_SETTABLE_RECORD_PAGE(ware_, traffic_light_area, traffic_light_area_record, nullptr, MW_NO_RULES, [](auto &a, auto &r) {
     a.list("trafficLightAreaList", nullptr, [&](auto &groups) {
         for (auto &group : r.groups) {
             groups.item([&](auto &item) {
@@ -300,7 +226,7 @@ WARE_PAGE(traffic_light_area, [](auto &a, auto &r) {
 
 /* ---- licence-plate result posting ---- */
 
-WARE_PAGE(lpr_post, [](auto &a, auto &r) {
+MW_SETTABLE_RECORD_PAGE(ware_, lpr_post, lpr_post_record, nullptr, MW_NO_RULES, [](auto &a, auto &r) {
     a("postEvents", r.postEvents);
     a("automaticRetransmission", r.automaticRetransmission);
 
@@ -362,7 +288,7 @@ WARE_PAGE(lpr_post, [](auto &a, auto &r) {
     a.object("more", [&](auto &more) { more("metadataEnable", r.metadataEnable); });
 })
 
-WARE_PAGE(lpr_post_template, [](auto &a, auto &r) {
+MW_SETTABLE_RECORD_PAGE(ware_, lpr_post_template, lpr_post_template_record, nullptr, MW_NO_RULES, [](auto &a, auto &r) {
     a("mode", r.mode);
     a("eventType", r.eventType);
     a("data", r.data);

@@ -206,7 +206,7 @@ MW_SETTABLE_PAGE(vca_configuration, [](auto &a, auto &r) {
     }
 })
 
-MW_READ_ONLY_PAGE(vca_alarm_status, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(vca_alarm_status, "live alarm states", [](auto &a, auto &r) {
     a("regionEntranceStatus", r.regionEntranceStatus); // no "Alarm" in this one
     a("regionExitAlarmStatus", r.regionExitAlarmStatus);
     a("advancedMotionAlarmStatus", r.advancedMotionAlarmStatus);
@@ -234,7 +234,7 @@ MW_READ_ONLY_PAGE(vca_alarm_status, [](auto &a, auto &r) {
     });
 })
 
-MW_READ_ONLY_PAGE(vca_all_alarm_status, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(vca_all_alarm_status, "live alarm states", [](auto &a, auto &r) {
     a("motionAlarmStatus", r.motionAlarmStatus);
     a("audioAlarmStatus", r.audioAlarmStatus);
     a("networkLostAlarmStatus", r.networkLostAlarmStatus);
@@ -263,7 +263,7 @@ MW_READ_ONLY_PAGE(vca_all_alarm_status, [](auto &a, auto &r) {
     });
 })
 
-MW_READ_ONLY_PAGE_OF(vca_exception_alarm_status, vca_all_alarm_status_record, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE_OF(vca_exception_alarm_status, vca_all_alarm_status_record, "live alarm states", [](auto &a, auto &r) {
     a("netlostEnable", r.netlostEnable);
     a("networkLostAlarmStatus", r.networkLostAlarmStatus);
     a("ipconflictEnable", r.ipconflictEnable);
@@ -483,7 +483,7 @@ MW_SETTABLE_PAGE(vca_regional_auto_export, [](auto &a, auto &r) {
     a("stayLength", r.stayLength);
 })
 
-MW_READ_ONLY_PAGE(vca_person_point, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(vca_person_point, "live tracking report", [](auto &a, auto &r) {
     a("personNum", r.personNum);
     a.list("personList", nullptr, [&](auto &l) {
         // personNum counts the valid tracks and is printed as stored; the
@@ -502,7 +502,7 @@ MW_READ_ONLY_PAGE(vca_person_point, [](auto &a, auto &r) {
     });
 })
 
-MW_READ_ONLY_PAGE(vca_people_counting_data, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(vca_people_counting_data, "live counters", [](auto &a, auto &r) {
     a.list("peopleList", "index", [&](auto &l) {
         for (int32_t i = 0; i < 4; ++i) {
             l.item(i, [&](auto &line) {
@@ -515,7 +515,7 @@ MW_READ_ONLY_PAGE(vca_people_counting_data, [](auto &a, auto &r) {
     });
 })
 
-MW_READ_ONLY_PAGE(vca_regional_people_data, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(vca_regional_people_data, "live people report", [](auto &a, auto &r) {
     a("regionsAlarmStatus", r.regionsAlarmStatus);
     a("regionsStayAlarmStatus", r.regionsStayAlarmStatus);
     a.list("peopleNumList", "region", [&](auto &l) {

@@ -83,7 +83,7 @@ MW_SETTABLE_PAGE(video_advanced, [](auto &a, auto &r) {
     });
 })
 
-MW_READ_ONLY_PAGE(video_framerate, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(video_framerate, "what the encoder offers", [](auto &a, auto &r) {
     a("streamCount", r.streamCount);
     const int32_t count = mw::bounded_count(r.streamCount, kFiveStreams);
     for (int32_t i = 0; i < count; ++i) {
@@ -98,7 +98,7 @@ MW_READ_ONLY_PAGE(video_framerate, [](auto &a, auto &r) {
     }
 })
 
-MW_READ_ONLY_PAGE(video_bit_info, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(video_bit_info, "what the encoder offers", [](auto &a, auto &r) {
     for (int32_t i = 0; i < kFiveStreams; ++i) {
         a.object(mw::Name::fixed(mw::kStreamNames[i]), [&](auto &s) {
             const mw::NonzeroValues rates = mw::nonzero_values(r.bitrate[i]);
@@ -109,33 +109,14 @@ MW_READ_ONLY_PAGE(video_bit_info, [](auto &a, auto &r) {
 
 /* ==== sensor, fisheye, multicast and playback settings ==== */
 
-namespace {
-constexpr auto describe_sensor_config = [](auto &a, auto &r) {
+/* The only page of the group that prints whatever buffer it is given. */
+MW_SETTABLE_RECORD_PAGE(, sensor_config, sensor_config_record, nullptr,
+                        MW_RULES(nullptr, nullptr, mw::kPrintsAnyBuffer), [](auto &a, auto &r) {
     a.list("sensorList", "sensorIndex", [&](auto &l) {
         for (int32_t s = 0; s < 2; ++s)
             l.item(s, [&](auto &sensor) { sensor("outputMode", r.outputMode[s]); });
     });
-};
-} // namespace
-
-int32_t get_sensor_config_json(const sensor_config_record *in, char *dst, int32_t dstSize)
-{
-    // The only page of the group that prints whatever buffer it is given.
-    return mw::render_page_unchecked(dst, dstSize, describe_sensor_config, *in);
-}
-
-int32_t schema_sensor_config_json(const sensor_config_record *in, char *dst, int32_t dstSize)
-{
-    if (!mw::buffer_usable(dst, dstSize))
-        return -1;
-    return mw::schema_page(dst, dstSize, "get_sensor_config_json", false, describe_sensor_config, *in);
-}
-
-int32_t set_sensor_config_json(sensor_config_record *record, const char *body, int32_t bodySize, char *dst,
-                               int32_t dstSize)
-{
-    return mw::apply_page(describe_sensor_config, record, body, bodySize, dst, dstSize);
-}
+})
 
 MW_SETTABLE_PAGE(video_fisheye_ptz_osd, [](auto &a, auto &r) {
     a("presetStatus", r.presetStatus);
@@ -175,7 +156,7 @@ MW_SETTABLE_PAGE(playvideo_config, [](auto &a, auto &r) {
     });
 })
 
-MW_READ_ONLY_PAGE(playvideo_filename, [](auto &a, auto &r) {
+MW_READ_ONLY_PAGE(playvideo_filename, "the files stored on the camera", [](auto &a, auto &r) {
     a.list("videoList", "index", [&](auto &l) {
         for (int32_t i = 0; i < 500; ++i) {
             if (r.name[i][0] != '\0')
@@ -184,37 +165,13 @@ MW_READ_ONLY_PAGE(playvideo_filename, [](auto &a, auto &r) {
     });
 })
 
-namespace {
-constexpr auto describe_dehumidifying_info = [](auto &a, auto &info, auto &status) {
+MW_SETTABLE_PAGE_WITH(, dehumidifying_info, dehumidifying_info_record, dehumidifying_status_record, MW_NO_RULES,
+                      [](auto &a, auto &info, auto &status) {
     a("fanWorkingMode", info.fanWorkingMode);
     // Plain degrees with two decimals, no unit.
     a.derived("temperature", mw::Text<128>("%.2f", status.temperature));
     a("fan", status.fan);
-};
-} // namespace
-
-int32_t get_dehumidifying_info_json(const dehumidifying_info_record *info, const dehumidifying_status_record *status,
-                                    char *dst, int32_t dstSize)
-{
-    if (!mw::buffer_usable(dst, dstSize))
-        return -1;
-    return mw::render_page(dst, dstSize, describe_dehumidifying_info, *info, *status);
-}
-
-int32_t schema_dehumidifying_info_json(const dehumidifying_info_record *info,
-                                       const dehumidifying_status_record *status, char *dst, int32_t dstSize)
-{
-    if (!mw::buffer_usable(dst, dstSize))
-        return -1;
-    return mw::schema_page(dst, dstSize, "get_dehumidifying_info_json", false, describe_dehumidifying_info, *info,
-                           *status);
-}
-
-int32_t set_dehumidifying_info_json(dehumidifying_info_record *info, dehumidifying_status_record *status,
-                                    const char *body, int32_t bodySize, char *dst, int32_t dstSize)
-{
-    return mw::apply_page(describe_dehumidifying_info, info, status, body, bodySize, dst, dstSize);
-}
+})
 
 /* ==== fisheye stream profiles ==== */
 

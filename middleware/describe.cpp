@@ -69,16 +69,25 @@ PolygonText polygon_text(const int32_t *values, size_t count)
 /* An archive that ignores every verb: the base of the three below. */
 void Items::indexed(int32_t, Fn<Archive &>) {}
 void Items::placed(Fn<Archive &>) {}
-void Archive::number(Name, void *, Num, bool) {}
-void Archive::text(Name, char *, size_t, bool) {}
-void Archive::computed_number(Name, double, bool) {}
-void Archive::computed_text(Name, const char *, size_t) {}
-void Archive::number_array(Name, void *, Num, size_t, bool) {}
-void Archive::computed_numbers(Name, const void *, Num, int32_t) {}
-void Archive::nested(Name, Fn<Archive &>) {}
-void Archive::items(Name, const char *, Fn<Items &>) {}
+void Archive::number(const char *, void *, Num, bool) {}
+void Archive::text(const char *, char *, size_t, bool) {}
+void Archive::computed_number(const char *, double, bool) {}
+void Archive::computed_text(const char *, const char *, size_t) {}
+void Archive::number_array(const char *, void *, Num, size_t, bool) {}
+void Archive::computed_numbers(const char *, const void *, Num, int32_t) {}
+void Archive::nested(const char *, Fn<Archive &>) {}
+void Archive::items(const char *, const char *, Fn<Items &>) {}
 void Archive::event_types(int32_t, Fn<Archive &, int32_t>) {}
 void Archive::only_when(bool, Fn<Archive &>) {}
+
+/* The calls of a description's lines into the archive: one place each
+   makes the virtual call, so that a line is a plain call. */
+void Items::indexed_item(int32_t index, Fn<Archive &> fill) { indexed(index, fill); }
+void Items::placed_item(Fn<Archive &> fill) { placed(fill); }
+void Archive::object_member(const char *key, Fn<Archive &> fill) { nested(key, fill); }
+void Archive::list_member(const char *key, const char *indexKey, Fn<Items &> fill) { items(key, indexKey, fill); }
+void Archive::event_type_members(int32_t selector, Fn<Archive &, int32_t> fill) { event_types(selector, fill); }
+void Archive::members_when(bool cond, Fn<Archive &> fill) { only_when(cond, fill); }
 
 namespace {
 
@@ -168,12 +177,11 @@ void store(void *p, Num kind, double d)
    this bit is free, and the parsed request is ours until the call returns. */
 constexpr int kRead = 1 << 13;
 
-void attach(cJSON *o, Name key, cJSON *item)
+void attach(cJSON *o, const char *key, bool copy, cJSON *item)
 {
     if (item == nullptr)
         return;
-    const bool added = key.lasting ? cJSON_AddItemToObjectCS(o, key.text, item)
-                                   : cJSON_AddItemToObject(o, key.text, item);
+    const bool added = copy ? cJSON_AddItemToObject(o, key, item) : cJSON_AddItemToObjectCS(o, key, item);
     if (!added)
         cJSON_Delete(item);
 }
@@ -210,29 +218,29 @@ cJSON *add_child(cJSON *parent, const char *key, cJSON *child)
 
 /* ==== rendering: Out ==== */
 
-void out_number(cJSON *o, Name key, double value)
+void out_number(cJSON *o, const char *key, bool copy, double value)
 {
     if (o != nullptr)
-        attach(o, key, cJSON_CreateNumber(value));
+        attach(o, key, copy, cJSON_CreateNumber(value));
 }
 
 /* A text read no further than `capacity` bytes (a field without its NUL is
    written up to its end). */
-void out_text(cJSON *o, Name key, const char *text, size_t capacity)
+void out_text(cJSON *o, const char *key, bool copy, const char *text, size_t capacity)
 {
     if (o == nullptr)
         return;
     if (capacity == SIZE_MAX || memchr(text, '\0', capacity) != nullptr) {
-        attach(o, key, cJSON_CreateString(text));
+        attach(o, key, copy, cJSON_CreateString(text));
         return;
     }
-    char *copy = static_cast<char *>(cJSON_malloc(capacity + 1));
-    if (copy == nullptr)
+    char *owned = static_cast<char *>(cJSON_malloc(capacity + 1));
+    if (owned == nullptr)
         return;
-    memcpy(copy, text, capacity);
-    copy[capacity] = '\0';
-    attach(o, key, cJSON_CreateString(copy));
-    cJSON_free(copy);
+    memcpy(owned, text, capacity);
+    owned[capacity] = '\0';
+    attach(o, key, copy, cJSON_CreateString(owned));
+    cJSON_free(owned);
 }
 
 void out_append_number(cJSON *list, double value)
@@ -245,30 +253,43 @@ class Out final : public Archive {
 public:
     explicit Out(cJSON *o) : o_(o) {}
 
-    void number(Name key, void *field, Num kind, bool) override { out_number(o_, key, load(field, kind)); }
-    void text(Name key, char *field, size_t capacity, bool) override { out_text(o_, key, field, capacity); }
-    void computed_number(Name key, double value, bool) override { out_number(o_, key, value); }
-    void computed_text(Name key, const char *text, size_t capacity) override { out_text(o_, key, text, capacity); }
-    void number_array(Name key, void *values, Num kind, size_t count, bool) override
+    void number(const char *key, void *field, Num kind, bool) override
     {
-        cJSON *list = mw::array(o_, key.text);
+        out_number(o_, key, copy_key(), load(field, kind));
+    }
+    void text(const char *key, char *field, size_t capacity, bool) override
+    {
+        out_text(o_, key, copy_key(), field, capacity);
+    }
+    void computed_number(const char *key, double value, bool) override { out_number(o_, key, copy_key(), value); }
+    void computed_text(const char *key, const char *text, size_t capacity) override
+    {
+        out_text(o_, key, copy_key(), text, capacity);
+    }
+    void number_array(const char *key, void *values, Num kind, size_t count, bool) override
+    {
+        copy_key(); // the array's key is copied anyway
+        cJSON *list = mw::array(o_, key);
         for (size_t i = 0; i < count; ++i)
             out_append_number(list, load(at(values, kind, i), kind));
     }
-    void computed_numbers(Name key, const void *values, Num kind, int32_t count) override
+    void computed_numbers(const char *key, const void *values, Num kind, int32_t count) override
     {
-        cJSON *list = mw::array(o_, key.text);
+        copy_key();
+        cJSON *list = mw::array(o_, key);
         for (int32_t i = 0; i < count; ++i)
             out_append_number(list, load(at(values, kind, static_cast<size_t>(i)), kind));
     }
-    void nested(Name key, Fn<Archive &> fill) override
+    void nested(const char *key, Fn<Archive &> fill) override
     {
-        Out sub(mw::object(o_, key.text));
+        copy_key();
+        Out sub(mw::object(o_, key));
         fill(sub);
     }
-    void items(Name key, const char *indexKey, Fn<Items &> fill) override
+    void items(const char *key, const char *indexKey, Fn<Items &> fill) override
     {
-        List l(mw::array(o_, key.text), indexKey);
+        copy_key();
+        List l(mw::array(o_, key), indexKey);
         fill(l);
     }
     void event_types(int32_t selector, Fn<Archive &, int32_t> fill) override
@@ -292,7 +313,7 @@ private:
         void indexed(int32_t index, Fn<Archive &> fill) override
         {
             Out sub(append_object(array_));
-            out_number(sub.o_, Name::fixed(indexKey_), static_cast<double>(index));
+            out_number(sub.o_, indexKey_, false, static_cast<double>(index));
             fill(sub);
         }
         void placed(Fn<Archive &> fill) override
@@ -333,7 +354,7 @@ public:
     bool failed() const { return failed_; }
     const char *refused_key() const { return error_; }
 
-    cJSON *take(cJSON *object, Name key);
+    cJSON *take(cJSON *object, const char *key);
     void refuse(const char *key);
 
     static bool number_fits(const cJSON *v, double low, double high, bool integral, double *out);
@@ -373,7 +394,7 @@ private:
     char error_[512] = {0};
 };
 
-cJSON *Session::take(cJSON *object, Name key)
+cJSON *Session::take(cJSON *object, const char *key)
 {
     if (failed_ || object == nullptr)
         return nullptr;
@@ -385,7 +406,7 @@ cJSON *Session::take(cJSON *object, Name key)
     for (int pass = 0; pass < 2; ++pass) {
         cJSON *stop = pass == 0 ? nullptr : start;
         for (cJSON *c = pass == 0 ? start : object->child; c != stop; c = c->next) {
-            if (c->string != nullptr && strcmp(c->string, key.text) == 0) {
+            if (c->string != nullptr && strcmp(c->string, key) == 0) {
                 c->type |= kRead;
                 last_object_ = object;
                 last_found_ = c;
@@ -587,7 +608,7 @@ class In final : public Archive {
 public:
     In(Session &s, cJSON *o) : Archive(true), s_(s), o_(o) {}
 
-    void number(Name key, void *field, Num kind, bool writable) override
+    void number(const char *key, void *field, Num kind, bool writable) override
     {
         if (!writable) {
             computed_number(key, load(field, kind), is_integral(kind));
@@ -598,12 +619,12 @@ public:
         if (v == nullptr)
             return;
         if (!Session::number_fits(v, bounds(kind).low, bounds(kind).high, is_integral(kind), &d)) {
-            s_.refuse(key.text);
+            s_.refuse(key);
             return;
         }
         store(field, kind, d);
     }
-    void text(Name key, char *field, size_t capacity, bool writable) override
+    void text(const char *key, char *field, size_t capacity, bool writable) override
     {
         if (!writable) {
             computed_text(key, field, capacity);
@@ -613,22 +634,22 @@ public:
         if (v == nullptr)
             return;
         if (!Session::text_fits(v, capacity)) {
-            s_.refuse(key.text);
+            s_.refuse(key);
             return;
         }
         Session::copy_text(field, capacity, v);
     }
-    void computed_number(Name key, double value, bool) override
+    void computed_number(const char *key, double value, bool) override
     {
         if (cJSON *v = s_.take(o_, key)) {
             cJSON computed{};
             computed.type = cJSON_Number;
             computed.valuedouble = value;
-            s_.check_derived(v, key.text, computed);
+            s_.check_derived(v, key, computed);
         }
     }
-    void computed_text(Name key, const char *text, size_t capacity) override;
-    void number_array(Name key, void *values, Num kind, size_t count, bool writable) override
+    void computed_text(const char *key, const char *text, size_t capacity) override;
+    void number_array(const char *key, void *values, Num kind, size_t count, bool writable) override
     {
         if (!writable) {
             computed_numbers(key, values, kind, static_cast<int32_t>(count));
@@ -643,14 +664,14 @@ public:
         for (cJSON *e = fits ? v->child : nullptr; fits && e != nullptr; e = e->next)
             fits = Session::number_fits(e, bounds(kind).low, bounds(kind).high, is_integral(kind), &d);
         if (!fits) {
-            s_.refuse(key.text);
+            s_.refuse(key);
             return;
         }
         size_t i = 0;
         for (cJSON *e = v->child; e != nullptr; e = e->next, ++i)
             store(const_cast<void *>(at(values, kind, i)), kind, e->valuedouble);
     }
-    void computed_numbers(Name key, const void *values, Num kind, int32_t count) override
+    void computed_numbers(const char *key, const void *values, Num kind, int32_t count) override
     {
         cJSON *v = s_.take(o_, key);
         if (v == nullptr)
@@ -660,33 +681,33 @@ public:
         for (cJSON *e = same ? v->child : nullptr; same && e != nullptr; e = e->next, ++i)
             same = cJSON_IsNumber(e) && e->valuedouble == load(at(values, kind, static_cast<size_t>(i)), kind);
         if (!same)
-            s_.refuse(key.text);
+            s_.refuse(key);
     }
-    void nested(Name key, Fn<Archive &> fill) override
+    void nested(const char *key, Fn<Archive &> fill) override
     {
         cJSON *v = s_.take(o_, key);
         if (v == nullptr)
             return;
         if (!cJSON_IsObject(v)) {
-            s_.refuse(key.text);
+            s_.refuse(key);
             return;
         }
-        const size_t mark = s_.enter(key.text);
+        const size_t mark = s_.enter(key);
         In sub(s_, v);
         fill(sub);
         sub.finish();
         s_.leave(mark);
     }
-    void items(Name key, const char *indexKey, Fn<Items &> fill) override
+    void items(const char *key, const char *indexKey, Fn<Items &> fill) override
     {
         cJSON *v = s_.take(o_, key);
         if (v == nullptr)
             return;
         if (!cJSON_IsArray(v)) {
-            s_.refuse(key.text);
+            s_.refuse(key);
             return;
         }
-        const size_t mark = s_.enter(key.text);
+        const size_t mark = s_.enter(key);
         if (s_.check_list(v, indexKey)) {
             List l(s_, v, indexKey);
             fill(l);
@@ -699,7 +720,7 @@ public:
     {
         for (int32_t type = 0; type <= kLastAlarmEventType && !s_.failed(); ++type) {
             auto one = [&](Archive &sub) { fill(sub, type); };
-            nested(Name::fixed(getAlarmEventTypeString(type)), Fn<Archive &>(one));
+            nested(getAlarmEventTypeString(type), Fn<Archive &>(one));
         }
     }
     void only_when(bool cond, Fn<Archive &> fill) override
@@ -733,7 +754,7 @@ private:
             const size_t mark = s_.enter_item(indexKey_, index);
             In sub(s_, element);
             if (indexKey_ != nullptr)
-                s_.take(element, Name::fixed(indexKey_));
+                s_.take(element, indexKey_);
             fill(sub);
             sub.finish();
             s_.leave(mark);
@@ -748,7 +769,7 @@ private:
     cJSON *o_;
 };
 
-void In::computed_text(Name key, const char *text, size_t capacity)
+void In::computed_text(const char *key, const char *text, size_t capacity)
 {
     cJSON *v = s_.take(o_, key);
     if (v == nullptr)
@@ -758,7 +779,7 @@ void In::computed_text(Name key, const char *text, size_t capacity)
         // A text that fills its array: compared as what the page shows.
         owned = static_cast<char *>(cJSON_malloc(capacity + 1));
         if (owned == nullptr) {
-            s_.refuse(key.text);
+            s_.refuse(key);
             return;
         }
         memcpy(owned, text, capacity);
@@ -768,7 +789,7 @@ void In::computed_text(Name key, const char *text, size_t capacity)
     cJSON computed{};
     computed.type = cJSON_String;
     computed.valuestring = const_cast<char *>(text);
-    s_.check_derived(v, key.text, computed);
+    s_.check_derived(v, key, computed);
     if (owned != nullptr)
         cJSON_free(owned);
 }
@@ -795,33 +816,33 @@ public:
     {
     }
 
-    void number(Name key, void *, Num kind, bool writable) override
+    void number(const char *key, void *, Num kind, bool writable) override
     {
         number_schema(property(key, !writable), kind);
     }
-    void text(Name key, char *, size_t capacity, bool writable) override
+    void text(const char *key, char *, size_t capacity, bool writable) override
     {
         text_schema(property(key, !writable), capacity);
     }
-    void computed_number(Name key, double, bool integral) override
+    void computed_number(const char *key, double, bool integral) override
     {
         kind(property(key, true), integral ? "integer" : "number");
     }
-    void computed_text(Name key, const char *, size_t) override { kind(property(key, true), "string"); }
-    void number_array(Name key, void *, Num kind, size_t count, bool writable) override
+    void computed_text(const char *key, const char *, size_t) override { kind(property(key, true), "string"); }
+    void number_array(const char *key, void *, Num kind, size_t count, bool writable) override
     {
         number_schema(number_list(property(key, !writable), static_cast<int32_t>(count), true), kind);
     }
-    void computed_numbers(Name key, const void *, Num kind, int32_t count) override
+    void computed_numbers(const char *key, const void *, Num kind, int32_t count) override
     {
         this->kind(number_list(property(key, true), count, !every_), is_integral(kind) ? "integer" : "number");
     }
-    void nested(Name key, Fn<Archive &> fill) override
+    void nested(const char *key, Fn<Archive &> fill) override
     {
         Shape sub(object_schema(property(key, false)), readOnly_, every_);
         fill(sub);
     }
-    void items(Name key, const char *indexKey, Fn<Items &> fill) override
+    void items(const char *key, const char *indexKey, Fn<Items &> fill) override
     {
         cJSON *schema = property(key, false);
         List l(*this, list_schema(schema), indexKey);
@@ -834,7 +855,7 @@ public:
         const bool saved = optional_;
         optional_ = optional_ || every_;
         for (int32_t type = one ? selector : 0; type <= (one ? selector : kLastAlarmEventType); ++type) {
-            Shape sub(object_schema(property(Name::fixed(getAlarmEventTypeString(type)), false)), readOnly_, every_);
+            Shape sub(object_schema(property(getAlarmEventTypeString(type), false)), readOnly_, every_);
             fill(sub, type);
         }
         optional_ = saved;
@@ -870,7 +891,7 @@ private:
         const char *indexKey_;
     };
 
-    cJSON *property(Name key, bool derived);
+    cJSON *property(const char *key, bool derived);
     static void kind(cJSON *schema, const char *type);
     static void number_schema(cJSON *schema, Num kind);
     static void text_schema(cJSON *schema, size_t capacity);
@@ -885,15 +906,15 @@ private:
     bool optional_ = false;
 };
 
-cJSON *Shape::property(Name key, bool derived)
+cJSON *Shape::property(const char *key, bool derived)
 {
     if (properties_ == nullptr)
         return nullptr;
-    cJSON *schema = add_child(properties_, key.text, cJSON_CreateObject());
+    cJSON *schema = add_child(properties_, key, cJSON_CreateObject());
     if (schema == nullptr)
         return nullptr;
     if (!optional_ && required_ != nullptr)
-        add_child(required_, nullptr, cJSON_CreateString(key.text));
+        add_child(required_, nullptr, cJSON_CreateString(key));
     if (derived || readOnly_)
         cJSON_AddTrueToObject(schema, "readOnly");
     return schema;
@@ -992,7 +1013,7 @@ void Shape::List::add(int32_t index, Fn<Archive &> &fill)
     cJSON *item = object_schema(add_child(elements_, nullptr, cJSON_CreateObject()));
     Shape shape(item, owner_.readOnly_, owner_.every_);
     if (item != nullptr && indexKey_ != nullptr) {
-        cJSON *schema = shape.property(Name::copied(indexKey_), false);
+        cJSON *schema = shape.property(indexKey_, false);
         kind(schema, "integer");
         if (!owner_.every_)
             cJSON_AddNumberToObject(schema, "const", index);
@@ -1025,10 +1046,10 @@ cJSON *schema_root(const char *title, bool readOnly)
     return Shape::object_schema(root);
 }
 
-cJSON *schema_tree(const Page &page, void *const *inputs, bool everyState)
+cJSON *schema_tree(const Page &page, const char *title, void *const *inputs, bool everyState)
 {
-    const bool readOnly = page.readOnly != nullptr;
-    cJSON *root = schema_root(page.title, readOnly);
+    const bool readOnly = (page.flags & kReadOnly) != 0;
+    cJSON *root = schema_root(title, readOnly);
     if (root != nullptr) {
         Shape shape(root, readOnly, everyState);
         page.walk(shape, inputs);
@@ -1048,7 +1069,7 @@ size_t staged_records(const Page &page)
 
 /* ==== the three calls of a page ==== */
 
-int32_t render(const Page &page, void *const *inputs, char *dst, int32_t dstSize)
+int32_t render(void *const *inputs, char *dst, int32_t dstSize, const Page &page)
 {
     if ((page.flags & kPrintsAnyBuffer) == 0 && !buffer_usable(dst, dstSize))
         return -1;
@@ -1057,18 +1078,58 @@ int32_t render(const Page &page, void *const *inputs, char *dst, int32_t dstSize
     return print_document(render_tree(page, inputs), dst, dstSize);
 }
 
-int32_t schema(const Page &page, void *const *inputs, char *dst, int32_t dstSize)
+int32_t schema(void *const *inputs, char *dst, int32_t dstSize, const Page &page, const char *title)
 {
     if (!buffer_usable(dst, dstSize))
         return -1;
     if (page.shown != nullptr && (page.flags & kQuietWhenHidden) == 0 && !page.shown(inputs))
         return -1;
-    return print_document(schema_tree(page, inputs, false), dst, dstSize);
+    return print_document(schema_tree(page, title, inputs, false), dst, dstSize);
 }
 
-cJSON *schema_of_every_state(const Page &page, void *const *inputs) { return schema_tree(page, inputs, true); }
+cJSON *schema_of_every_state(const Page &page, const char *title, void *const *inputs)
+{
+    return schema_tree(page, title, inputs, true);
+}
 
-int32_t apply(const Page &page, void *const *inputs, const char *body, int32_t bodySize, char *dst, int32_t dstSize)
+int32_t render_one(void *input, char *dst, int32_t dstSize, const Page &page)
+{
+    void *const inputs[1] = {input};
+    return render(inputs, dst, dstSize, page);
+}
+
+int32_t render_two(void *first, void *second, char *dst, int32_t dstSize, const Page &page)
+{
+    void *const inputs[2] = {first, second};
+    return render(inputs, dst, dstSize, page);
+}
+
+int32_t schema_one(void *input, char *dst, int32_t dstSize, const Page &page, const char *title)
+{
+    void *const inputs[1] = {input};
+    return schema(inputs, dst, dstSize, page, title);
+}
+
+int32_t schema_two(void *first, void *second, char *dst, int32_t dstSize, const Page &page, const char *title)
+{
+    void *const inputs[2] = {first, second};
+    return schema(inputs, dst, dstSize, page, title);
+}
+
+int32_t apply_one(void *input, const char *body, int32_t bodySize, char *dst, int32_t dstSize, const Page &page)
+{
+    void *const inputs[1] = {input};
+    return apply(inputs, body, bodySize, dst, dstSize, page);
+}
+
+int32_t apply_two(void *first, void *second, const char *body, int32_t bodySize, char *dst, int32_t dstSize,
+                  const Page &page)
+{
+    void *const inputs[2] = {first, second};
+    return apply(inputs, body, bodySize, dst, dstSize, page);
+}
+
+int32_t apply(void *const *inputs, const char *body, int32_t bodySize, char *dst, int32_t dstSize, const Page &page)
 {
     if (!buffer_usable(dst, dstSize))
         return -1;
@@ -1158,7 +1219,7 @@ const PageRow *page_rows() { return rows; }
 const PageRow *find_page(const char *serializer)
 {
     for (const PageRow *row = rows; row != nullptr; row = row->next)
-        if (strcmp(row->page->title, serializer) == 0)
+        if (strcmp(row->name, serializer) == 0)
             return row;
     return nullptr;
 }

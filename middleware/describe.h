@@ -93,18 +93,21 @@ namespace mw {
 
 struct Name {
     const char *text;
-    bool lasting; // the text outlives the document: the tree may point at it
+    /* The text may not outlive the call (a generated key): the tree keeps a
+       copy. Literals and the library's tables leave it false, the cheaper
+       value to pass at each of the page's lines. */
+    bool copy;
 
     template <size_t N>
-    constexpr Name(const char (&literal)[N]) : text(literal), lasting(true) {}
+    constexpr Name(const char (&literal)[N]) : text(literal), copy(false) {}
     template <typename K, typename = decltype(static_cast<const char *>(static_cast<const K *>(nullptr)->c_str()))>
-    Name(const K &generated) : text(generated.c_str()), lasting(false) {}
+    Name(const K &generated) : text(generated.c_str()), copy(true) {}
 
-    static constexpr Name fixed(const char *t) { return Name(t, true); }
-    static constexpr Name copied(const char *t) { return Name(t, false); }
+    static constexpr Name fixed(const char *t) { return Name(t, false); }
+    static constexpr Name copied(const char *t) { return Name(t, true); }
 
 private:
-    constexpr Name(const char *t, bool l) : text(t), lasting(l) {}
+    constexpr Name(const char *t, bool c) : text(t), copy(c) {}
 };
 
 /* ---- number kinds ---- */
@@ -161,9 +164,9 @@ class Archive;
 class Items {
 public:
     template <typename G>
-    void item(int32_t index, G &&fill) { indexed(index, Fn<Archive &>(fill)); }
+    void item(int32_t index, G &&fill) { indexed_item(index, Fn<Archive &>(fill)); }
     template <typename G>
-    void item(G &&fill) { placed(Fn<Archive &>(fill)); }
+    void item(G &&fill) { placed_item(Fn<Archive &>(fill)); }
 
     virtual void indexed(int32_t index, Fn<Archive &> fill);
     virtual void placed(Fn<Archive &> fill);
@@ -171,57 +174,74 @@ public:
 protected:
     Items() = default;
     ~Items() = default;
+
+private:
+    void indexed_item(int32_t index, Fn<Archive &> fill);
+    void placed_item(Fn<Archive &> fill);
 };
+
+#define MW_INLINE_ inline __attribute__((always_inline))
+#define MW_OUT_OF_LINE_ __attribute__((noinline))
 
 class Archive {
 public:
+    /* The verbs. Each line of a description becomes one call of a small
+       function made once per member type (or array size) with the key alone;
+       a generated key first tells the archive to keep a copy of it. */
     template <typename T, typename = std::enable_if_t<is_number_v<T>>>
-    void operator()(Name key, T &field) { number(key, &field, num_of<T>(), true); }
+    MW_INLINE_ void operator()(Name key, T &field) { number_member<std::remove_const_t<T>, !std::is_const<T>::value>(key_of(key), &field); }
     template <typename T, typename = std::enable_if_t<is_number_v<T>>>
-    void operator()(Name key, const T &field) { number(key, const_cast<T *>(&field), num_of<T>(), false); }
+    MW_INLINE_ void operator()(Name key, const T &field) { number_member<T, false>(key_of(key), &field); }
     template <size_t N>
-    void operator()(Name key, char (&text)[N]) { this->text(key, text, N, true); }
+    MW_INLINE_ void operator()(Name key, char (&text)[N]) { text_member<N, true>(key_of(key), text); }
     template <size_t N>
-    void operator()(Name key, const char (&text)[N]) { this->text(key, const_cast<char *>(text), N, false); }
+    MW_INLINE_ void operator()(Name key, const char (&text)[N]) { text_member<N, false>(key_of(key), text); }
 
     template <typename T, typename = std::enable_if_t<is_number_v<T>>>
-    void derived(Name key, T value) { computed_number(key, static_cast<double>(value), std::is_integral<T>::value); }
+    MW_INLINE_ void derived(Name key, T value) { derived_member<T>(key_of(key), value); }
     template <size_t N>
-    void derived(Name key, const char (&text)[N]) { computed_text(key, text, N); }
+    MW_INLINE_ void derived(Name key, const char (&text)[N]) { derived_text_member<N>(key_of(key), text); }
     template <typename K, typename = decltype(static_cast<const K *>(nullptr)->c_str())>
-    void derived(Name key, const K &text) { computed_text(key, text.c_str(), SIZE_MAX); }
-    void derived_text(Name key, const char *text) { computed_text(key, text, SIZE_MAX); }
+    MW_INLINE_ void derived(Name key, const K &text) { derived_text_member<SIZE_MAX>(key_of(key), text.c_str()); }
+    MW_INLINE_ void derived_text(Name key, const char *text) { derived_text_member<SIZE_MAX>(key_of(key), text); }
 
     template <typename T, size_t N>
-    void numbers(Name key, T (&values)[N])
+    MW_INLINE_ void numbers(Name key, T (&values)[N])
     {
-        number_array(key, const_cast<void *>(static_cast<const void *>(values)), num_of<std::remove_const_t<T>>(), N,
-                     !std::is_const<T>::value);
+        array_member<std::remove_const_t<T>, N, !std::is_const<T>::value>(key_of(key), values);
     }
     template <typename T>
-    void derived_numbers(Name key, const T *values, int32_t count) { computed_numbers(key, values, num_of<T>(), count); }
+    MW_INLINE_ void derived_numbers(Name key, const T *values, int32_t count)
+    {
+        derived_array_member<T>(key_of(key), values, count);
+    }
 
     template <typename F>
-    void object(Name key, F &&fill) { nested(key, Fn<Archive &>(fill)); }
+    MW_INLINE_ void object(Name key, F &&fill) { object_member(key_of(key), Fn<Archive &>(fill)); }
     template <typename F>
-    void list(Name key, const char *indexKey, F &&fill) { items(key, indexKey, Fn<Items &>(fill)); }
+    MW_INLINE_ void list(Name key, const char *indexKey, F &&fill)
+    {
+        list_member(key_of(key), indexKey, Fn<Items &>(fill));
+    }
     template <typename F>
-    void per_event_type(int32_t selector, F &&fill) { event_types(selector, Fn<Archive &, int32_t>(fill)); }
+    MW_INLINE_ void per_event_type(int32_t selector, F &&fill) { event_type_members(selector, Fn<Archive &, int32_t>(fill)); }
     template <typename F>
-    void when(bool cond, F &&fill) { only_when(cond, Fn<Archive &>(fill)); }
+    MW_INLINE_ void when(bool cond, F &&fill) { members_when(cond, Fn<Archive &>(fill)); }
 
     bool writes() const { return writes_; }
 
-    /* What each archive does with a verb. */
-    virtual void number(Name key, void *field, Num kind, bool writable);
-    virtual void text(Name key, char *field, size_t capacity, bool writable);
-    virtual void computed_number(Name key, double value, bool integral);
+    /* What each archive does with a verb. `key` stays valid for the call;
+       copy_key() tells whether the tree must keep a copy of it (and forgets
+       it, so that it holds for one key). */
+    virtual void number(const char *key, void *field, Num kind, bool writable);
+    virtual void text(const char *key, char *field, size_t capacity, bool writable);
+    virtual void computed_number(const char *key, double value, bool integral);
     /* capacity: the array holding the text (SIZE_MAX: NUL-terminated). */
-    virtual void computed_text(Name key, const char *text, size_t capacity);
-    virtual void number_array(Name key, void *values, Num kind, size_t count, bool writable);
-    virtual void computed_numbers(Name key, const void *values, Num kind, int32_t count);
-    virtual void nested(Name key, Fn<Archive &> fill);
-    virtual void items(Name key, const char *indexKey, Fn<Items &> fill);
+    virtual void computed_text(const char *key, const char *text, size_t capacity);
+    virtual void number_array(const char *key, void *values, Num kind, size_t count, bool writable);
+    virtual void computed_numbers(const char *key, const void *values, Num kind, int32_t count);
+    virtual void nested(const char *key, Fn<Archive &> fill);
+    virtual void items(const char *key, const char *indexKey, Fn<Items &> fill);
     virtual void event_types(int32_t selector, Fn<Archive &, int32_t> fill);
     virtual void only_when(bool cond, Fn<Archive &> fill);
 
@@ -229,8 +249,57 @@ protected:
     explicit Archive(bool writes = false) : writes_(writes) {}
     ~Archive() = default;
 
+    bool copy_key()
+    {
+        const bool copy = copy_;
+        copy_ = false;
+        return copy;
+    }
+
 private:
+    MW_INLINE_ const char *key_of(Name key)
+    {
+        if (key.copy)
+            copy_ = true;
+        return key.text;
+    }
+    template <typename T, bool Writable>
+    MW_OUT_OF_LINE_ void number_member(const char *key, const T *field)
+    {
+        number(key, const_cast<T *>(field), num_of<T>(), Writable);
+    }
+    template <size_t N, bool Writable>
+    MW_OUT_OF_LINE_ void text_member(const char *key, const char *field)
+    {
+        text(key, const_cast<char *>(field), N, Writable);
+    }
+    template <typename T>
+    MW_OUT_OF_LINE_ void derived_member(const char *key, T value)
+    {
+        computed_number(key, static_cast<double>(value), std::is_integral<T>::value);
+    }
+    template <size_t N>
+    MW_OUT_OF_LINE_ void derived_text_member(const char *key, const char *text)
+    {
+        computed_text(key, text, N);
+    }
+    template <typename T, size_t N, bool Writable>
+    MW_OUT_OF_LINE_ void array_member(const char *key, const T *values)
+    {
+        number_array(key, const_cast<T *>(values), num_of<T>(), N, Writable);
+    }
+    template <typename T>
+    MW_OUT_OF_LINE_ void derived_array_member(const char *key, const T *values, int32_t count)
+    {
+        computed_numbers(key, values, num_of<T>(), count);
+    }
+    void object_member(const char *key, Fn<Archive &> fill);
+    void list_member(const char *key, const char *indexKey, Fn<Items &> fill);
+    void event_type_members(int32_t selector, Fn<Archive &, int32_t> fill);
+    void members_when(bool cond, Fn<Archive &> fill);
+
     bool writes_;
+    bool copy_ = false;
 };
 
 /* The alarm event types of the event-name table: 0..47. */
@@ -263,17 +332,13 @@ void schedule_list(Archive &a, Days &days)
    while a request is applied) and arguments. */
 using Walk = void (*)(Archive &a, void *const *inputs);
 
-/* What a page is: its serializer's name (the schema's title), its
-   description, whether a client may write it, and the rules a few pages add
-   to the contract. */
+/* What a page is to its three functions: its description, whether a client
+   may write it, the records a set request stages, and the rules a few pages
+   add to the contract. Its names, its argument and why it is read-only are
+   stated beside it and kept in the tools' page table (pages.h). */
 struct Page {
-    const char *title;
     Walk walk;
-    /* Why a client cannot write the page (a few words); nullptr when it can. */
-    const char *readOnly;
-    /* The argument a web server passes beside the records ("eventType",
-       "count", ...), or nullptr. */
-    const char *argument;
+    uint8_t flags; // PageFlags
     /* How many inputs the description takes, and the bytes of the records
        among them that a set request stages (the first ones). */
     uint8_t arity;
@@ -283,37 +348,79 @@ struct Page {
     /* A last look at a staged request before it is kept: nullptr, or false
        with the refused key's path written into `path`. */
     bool (*accept)(void *const *before, void *const *staged, char *path, size_t size);
-    uint8_t flags;
 };
 
 enum PageFlags : uint8_t {
+    /* A client cannot write the page: its schema marks every key read-only. */
+    kReadOnly = 1,
     /* The serializer prints whatever buffer it is given: a size below 1 (or
        a NULL buffer) copies nothing and still yields 0. */
-    kPrintsAnyBuffer = 1,
+    kPrintsAnyBuffer = 2,
     /* A record that is not shown renders nothing and answers 0 (its schema
        is still printed). */
-    kQuietWhenHidden = 2,
+    kQuietWhenHidden = 4,
     /* A record that is not shown cannot be written either. */
-    kSetOnlyWhenShown = 4,
+    kSetOnlyWhenShown = 8,
 };
 
 inline bool buffer_usable(const char *dst, int32_t dstSize) { return dst != nullptr && dstSize >= 1; }
 
-/* The three calls of a page, over its inputs. */
-int32_t render(const Page &page, void *const *inputs, char *dst, int32_t dstSize);
-int32_t schema(const Page &page, void *const *inputs, char *dst, int32_t dstSize);
-int32_t apply(const Page &page, void *const *inputs, const char *body, int32_t bodySize, char *dst,
-              int32_t dstSize);
+/* The three calls of a page, over its inputs; `title` is the serializer's
+   name. The page comes last, so that an exported function that passes its
+   own arguments on reduces to a jump. */
+int32_t render(void *const *inputs, char *dst, int32_t dstSize, const Page &page);
+int32_t render_one(void *input, char *dst, int32_t dstSize, const Page &page);
+int32_t render_two(void *first, void *second, char *dst, int32_t dstSize, const Page &page);
+int32_t schema(void *const *inputs, char *dst, int32_t dstSize, const Page &page, const char *title);
+int32_t schema_one(void *input, char *dst, int32_t dstSize, const Page &page, const char *title);
+int32_t schema_two(void *first, void *second, char *dst, int32_t dstSize, const Page &page, const char *title);
+int32_t apply(void *const *inputs, const char *body, int32_t bodySize, char *dst, int32_t dstSize, const Page &page);
+int32_t apply_one(void *input, const char *body, int32_t bodySize, char *dst, int32_t dstSize, const Page &page);
+int32_t apply_two(void *first, void *second, const char *body, int32_t bodySize, char *dst, int32_t dstSize,
+                  const Page &page);
 
 /* The schema of every document the page can render, whatever state its
    records are in (the records still decide which optional keys and list
    elements it lists); nullptr when memory runs out. */
-cJSON *schema_of_every_state(const Page &page, void *const *inputs);
+cJSON *schema_of_every_state(const Page &page, const char *title, void *const *inputs);
 
 /* A page's inputs as the description's untyped pointers. */
 template <typename T>
 void *input(const T *p) { return const_cast<void *>(static_cast<const void *>(p)); }
 inline void *input(int32_t &value) { return &value; }
+
+/* The three calls from an exported function's own arguments. */
+template <typename A>
+MW_INLINE_ int32_t render_page(A &a, char *dst, int32_t dstSize, const Page &page)
+{
+    return render_one(input(a), dst, dstSize, page);
+}
+template <typename A, typename B>
+MW_INLINE_ int32_t render_page(A &a, B &b, char *dst, int32_t dstSize, const Page &page)
+{
+    return render_two(input(a), input(b), dst, dstSize, page);
+}
+template <typename A>
+MW_INLINE_ int32_t schema_page(A &a, char *dst, int32_t dstSize, const Page &page, const char *title)
+{
+    return schema_one(input(a), dst, dstSize, page, title);
+}
+template <typename A, typename B>
+MW_INLINE_ int32_t schema_page(A &a, B &b, char *dst, int32_t dstSize, const Page &page, const char *title)
+{
+    return schema_two(input(a), input(b), dst, dstSize, page, title);
+}
+template <typename A>
+MW_INLINE_ int32_t apply_page(A &a, const char *body, int32_t bodySize, char *dst, int32_t dstSize, const Page &page)
+{
+    return apply_one(input(a), body, bodySize, dst, dstSize, page);
+}
+template <typename A, typename B>
+MW_INLINE_ int32_t apply_page(A &a, B &b, const char *body, int32_t bodySize, char *dst, int32_t dstSize,
+                              const Page &page)
+{
+    return apply_two(input(a), input(b), body, bodySize, dst, dstSize, page);
+}
 
 /* The description's typed arguments from its untyped inputs. */
 template <typename T>

@@ -120,27 +120,15 @@ PolygonText polygon_text(const int32_t *values, size_t count);
  * Every function tests the buffer before it reads a record, so that a refused
  * buffer returns before any record is read. */
 
-namespace mw {
-
-/* The inputs of one call, as the description's untyped pointers. */
-template <size_t N>
-struct Inputs {
-    void *p[N];
-    operator void *const *() const { return p; }
-};
-template <typename... T>
-Inputs<sizeof...(T)> inputs(T &...values)
-{
-    return {{input(values)...}};
-}
-
-} // namespace mw
-
 #define MW_UNPAREN_(...) __VA_ARGS__
 #define MW_RULES(shown, accept, flags) (shown, accept, flags)
 #define MW_NO_RULES MW_RULES(nullptr, nullptr, 0)
+#define MW_SHOWN_(shown, accept, flags) shown
+#define MW_ACCEPT_(shown, accept, flags) accept
+#define MW_FLAGS_(shown, accept, flags) flags
 
-/* The page object: the description, compiled once, and what the page is. */
+/* The page object: the description, compiled once, and what the page is;
+   in the tools' build, its row of the page table too. */
 #define MW_PAGE_OBJECT_(prefix, resource, reason, argument, rules, arity, sizes, Types, ...)                  \
     namespace {                                                                                              \
     constexpr auto describe_##resource = __VA_ARGS__;                                                        \
@@ -148,37 +136,46 @@ Inputs<sizeof...(T)> inputs(T &...values)
     {                                                                                                        \
         mw::walk_with<MW_UNPAREN_ Types>(describe_##resource, a, inputs, std::make_index_sequence<arity>{});  \
     }                                                                                                        \
-    constexpr mw::Page page_##resource = {#prefix "get_" #resource "_json", walk_##resource, reason,         \
-                                          argument, arity, {MW_UNPAREN_ sizes}, MW_UNPAREN_ rules};          \
-    }
+    constexpr mw::Page page_##resource = {                                                                   \
+        walk_##resource,                                                                                     \
+        static_cast<uint8_t>(MW_FLAGS_ rules | ((reason) != nullptr ? mw::kReadOnly : 0)),                   \
+        arity,                                                                                               \
+        {MW_UNPAREN_ sizes},                                                                                 \
+        MW_SHOWN_ rules,                                                                                     \
+        MW_ACCEPT_ rules};                                                                                   \
+    }                                                                                                        \
+    MW_PAGE_ROW_(prefix, resource, reason, argument)
 
 #ifdef MW_PAGE_TABLE
 /* The tools' build: each page enrolled in the page table (pages.h) instead
    of its exported functions. */
-#define MW_PAGE_FUNCTIONS_(prefix, resource, Params, Inputs)                                                  \
+#define MW_PAGE_ROW_(prefix, resource, reason, argument)                                                      \
     namespace {                                                                                              \
-    mw::PageRow row_##resource{&page_##resource, #prefix "schema_" #resource "_json", nullptr, nullptr};      \
+    mw::PageRow row_##resource{&page_##resource,       #prefix "get_" #resource "_json",                     \
+                               #prefix "schema_" #resource "_json", nullptr, reason, argument, nullptr};    \
     const bool enrolled_##resource = mw::enroll(row_##resource);                                             \
     }
+#define MW_PAGE_FUNCTIONS_(prefix, resource, Params, Inputs)
 #define MW_SET_FUNCTION_(prefix, resource, Params, Inputs)                                                    \
     namespace {                                                                                              \
     const bool settable_##resource = (row_##resource.setName = #prefix "set_" #resource "_json", true);      \
     }
 #else
+#define MW_PAGE_ROW_(prefix, resource, reason, argument)
 #define MW_PAGE_FUNCTIONS_(prefix, resource, Params, Inputs)                                                  \
     int32_t prefix##get_##resource##_json(MW_UNPAREN_ Params, char *dst, int32_t dstSize)                     \
     {                                                                                                        \
-        return mw::render(page_##resource, mw::inputs Inputs, dst, dstSize);                                  \
+        return mw::render_page(MW_UNPAREN_ Inputs, dst, dstSize, page_##resource);                          \
     }                                                                                                        \
     int32_t prefix##schema_##resource##_json(MW_UNPAREN_ Params, char *dst, int32_t dstSize)                  \
     {                                                                                                        \
-        return mw::schema(page_##resource, mw::inputs Inputs, dst, dstSize);                                  \
+        return mw::schema_page(MW_UNPAREN_ Inputs, dst, dstSize, page_##resource, #prefix "get_" #resource "_json"); \
     }
 #define MW_SET_FUNCTION_(prefix, resource, Params, Inputs)                                                    \
     int32_t prefix##set_##resource##_json(MW_UNPAREN_ Params, const char *body, int32_t bodySize, char *dst,  \
                                           int32_t dstSize)                                                   \
     {                                                                                                        \
-        return mw::apply(page_##resource, mw::inputs Inputs, body, bodySize, dst, dstSize);                   \
+        return mw::apply_page(MW_UNPAREN_ Inputs, body, bodySize, dst, dstSize, page_##resource);            \
     }
 #endif
 

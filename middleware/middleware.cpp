@@ -28,29 +28,26 @@ void walk_format_error(mw::Archive &a, void *const *key)
     a.derived_text(mw::Name::copied(static_cast<const char *>(key[0])), "format error");
 }
 
-constexpr mw::Page envelope(const char *title, mw::Walk walk)
-{
-    return mw::Page{title, walk, "a reply", nullptr, 0, {0, 0}, nullptr, nullptr, 0};
-}
-constexpr mw::Page kEmpty = envelope("zk_return_get_request_empty_json", walk_empty);
-constexpr mw::Page kSucceed = envelope("zk_return_set_request_succeed_json", walk_succeed);
-constexpr mw::Page kFailed = envelope("zk_return_set_request_faild_json", walk_failed);
-constexpr mw::Page kFormatError = envelope("zk_return_format_error_json", walk_format_error);
+constexpr mw::Page envelope(mw::Walk walk) { return mw::Page{walk, mw::kReadOnly, 0, {0, 0}, nullptr, nullptr}; }
+constexpr mw::Page kEmpty = envelope(walk_empty);
+constexpr mw::Page kSucceed = envelope(walk_succeed);
+constexpr mw::Page kFailed = envelope(walk_failed);
+constexpr mw::Page kFormatError = envelope(walk_format_error);
 
 } // namespace
 
-int32_t zk_return_get_request_empty_json(char *dst, int32_t dstSize) { return mw::render(kEmpty, nullptr, dst, dstSize); }
+int32_t zk_return_get_request_empty_json(char *dst, int32_t dstSize) { return mw::render(nullptr, dst, dstSize, kEmpty); }
 
 int32_t zk_return_set_request_succeed_json(char *dst, int32_t dstSize)
 {
-    return mw::render(kSucceed, nullptr, dst, dstSize);
+    return mw::render(nullptr, dst, dstSize, kSucceed);
 }
 
-int32_t zk_return_set_request_faild_json(char *dst, int32_t dstSize) { return mw::render(kFailed, nullptr, dst, dstSize); }
+int32_t zk_return_set_request_faild_json(char *dst, int32_t dstSize) { return mw::render(nullptr, dst, dstSize, kFailed); }
 
 int32_t zk_return_format_error_json(char *dst, int32_t dstSize, const char *key)
 {
-    return mw::render(kFormatError, mw::inputs(key), dst, dstSize);
+    return mw::render_one(const_cast<char *>(key), dst, dstSize, kFormatError);
 }
 
 int32_t zk_check_format_json(const char *query)

@@ -12,9 +12,12 @@
 namespace mw {
 
 struct PageRow {
-    const Page *page;       // its serializer's name is page->title
+    const Page *page;
+    const char *name;       // its serializer
     const char *schemaName; // its schema function
     const char *setName;    // its set function; nullptr for a read-only page
+    const char *readOnly;   // why a client cannot write it; nullptr when it can
+    const char *argument;   // what a web server passes beside the records, or nullptr
     PageRow *next;
 };
 

@@ -74,7 +74,7 @@ audio_file_record sample_audio_file()
 const CatalogEntry entries[] = {
     MW_SETTABLE_ENTRY(audio_info, "audio input and output settings",
                       (kept<audio_info_record, sample_audio_info>)),
-    MW_READ_ONLY_ENTRY(audio_file, "the stored alarm audio files", "the files stored on the camera",
+    MW_READ_ONLY_ENTRY(audio_file, "the stored alarm audio files",
                        (kept<audio_file_record, sample_audio_file>)),
     MW_SETTABLE_ENTRY(storage_settings, "SD card state and network storage slots",
                       (kept<storage_settings_record, sample_storage>)),

@@ -450,14 +450,14 @@ const CatalogEntry entries[] = {
                       (kept<camera_while_led_record, sample_camera_while_led>)),
     MW_SETTABLE_ENTRY(camera_ir_value, "IR light sensor reading and illuminator strengths",
                       (kept<camera_ir_value_record, sample_camera_ir_value>)),
-    MW_READ_ONLY_ENTRY(camera_model_general, "what the camera model supports", "what the model offers",
+    MW_READ_ONLY_ENTRY(camera_model_general, "what the camera model supports",
                        (kept<camera_model_general_record, sample_camera_model_general>)),
-    MW_READ_ONLY_ENTRY(camera_fish_presets, "the fisheye views' presets, one key per preset id", "presets are stored by the PTZ pages",
+    MW_READ_ONLY_ENTRY(camera_fish_presets, "the fisheye views' presets, one key per preset id",
                        (kept<camera_fish_presets_record, sample_fish_presets>)),
     MW_SETTABLE_ENTRY(camera_fish_view_field, "the fisheye's field of view",
                       (kept<camera_fish_view_field_record, sample_camera_fish_view_field>)),
     page_entry<AllCapabilityPage>("get_camera_all_capability_json",
-                                  "one group of capability flags, selected by its code", "what the camera offers"),
+                                  "one group of capability flags, selected by its code"),
 };
 
 } // namespace

@@ -187,23 +187,28 @@ struct CapabilityPage {
     static int32_t schema(void *state, char *dst, int32_t n) { return on_copy<Schema>(state, dst, n); }
     static int32_t *count(void *state) { return &static_cast<State *>(state)->count; }
     static int32_t sample(char *dst, int32_t n) { return on_copy<Get>(&Sample(), dst, n); }
+    static void inputs(void *state, void **out)
+    {
+        State &s = *static_cast<State *>(state);
+        s.count = count_of(s);
+        out[0] = data_of(s);
+        out[1] = &s.count;
+    }
     static constexpr PageOps ops{sizeof(State), initial, render, schema, nullptr, count, "count"};
 };
 
-const char *const kOffered = "what the camera offers";
-
 const CatalogEntry entries[] = {
     page_entry<CapabilityPage<CommonEntries, common_state, cap_entry, get_cap_common_json, schema_cap_common_json>>(
-        "get_cap_common_json", "general capabilities, grouped into nested sections", kOffered),
+        "get_cap_common_json", "general capabilities, grouped into nested sections"),
     page_entry<CapabilityPage<cap_general_video_record, record_state<cap_general_video_record, sample_video, 5>,
                               cap_general_video_record, get_cap_general_video_json, schema_cap_general_video_json>>(
-        "get_cap_general_video_json", "encoder capabilities: codecs, resolutions, bit rates per stream", kOffered),
+        "get_cap_general_video_json", "encoder capabilities: codecs, resolutions, bit rates per stream"),
     page_entry<CapabilityPage<cap_audio_record, record_state<cap_audio_record, sample_audio, 4>, cap_audio_record,
                               get_cap_audio_json, schema_cap_audio_json>>(
-        "get_cap_audio_json", "audio capabilities: encoders, sample rates and bit rates", kOffered),
+        "get_cap_audio_json", "audio capabilities: encoders, sample rates and bit rates"),
     page_entry<CapabilityPage<cap_ptz_record, record_state<cap_ptz_record, sample_ptz, 4>, cap_ptz_record,
                               get_cap_ptz_json, schema_cap_ptz_json>>(
-        "get_cap_ptz_json", "PTZ capabilities and the dome's reserved preset numbers", kOffered),
+        "get_cap_ptz_json", "PTZ capabilities and the dome's reserved preset numbers"),
 };
 
 } // namespace

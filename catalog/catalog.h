@@ -7,6 +7,7 @@
 #define MIDDLEWARE_CATALOG_H
 
 #include "middleware.h"
+#include "pages.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -42,9 +43,26 @@ struct CatalogEntry {
     bool testsBuffer = true;
     // The page behind the document; nullptr for the reply envelopes.
     const PageOps *page = nullptr;
-    // Why a client cannot write the page (a few words); nullptr when it can.
-    const char *readOnly = nullptr;
+    // A state as the page's inputs, in the order its functions take them
+    // (records and arguments), for the page table's own calls. It brings a
+    // count to what the web server would pass, so it may change the state.
+    void (*inputs)(void *state, void **out) = nullptr;
 };
+
+// The page's row in the library's page table (its identity as the page
+// declares it); nullptr for the reply envelopes.
+const mw::PageRow *catalog_row(const CatalogEntry &entry);
+// Why a client cannot write the page (a few words, from its declaration);
+// nullptr when it can, and for the reply envelopes.
+const char *catalog_read_only(const CatalogEntry &entry);
+// The page rendered from a state through the page table (what the library's
+// serializer renders, by the table's own description); -1 when the page
+// refuses it.
+int32_t catalog_render_by_table(const CatalogEntry &entry, void *state, char *dst, int32_t dstSize);
+// The JSON Schema of every document the page can render, from its
+// description, with the state deciding which optional keys and list
+// elements it shows; nullptr for the reply envelopes.
+cJSON *catalog_schema_of_every_state(const CatalogEntry &entry, void *state);
 
 // A sample record made once by `Make` and kept.
 template <typename R, R (*Make)()>
@@ -63,6 +81,7 @@ struct ReadOnlyRecordPage {
     static int32_t render(void *state, char *dst, int32_t n) { return Get(static_cast<const R *>(state), dst, n); }
     static int32_t schema(void *state, char *dst, int32_t n) { return Schema(static_cast<const R *>(state), dst, n); }
     static int32_t sample(char *dst, int32_t n) { return Get(&Sample(), dst, n); }
+    static void inputs(void *state, void **out) { out[0] = state; }
     static constexpr PageOps ops{sizeof(R), initial, render, schema, nullptr};
 };
 
@@ -104,25 +123,30 @@ struct PairPage {
         return Set(&of(state).first, &of(state).second, body, size, dst, n);
     }
     static int32_t sample(char *dst, int32_t n) { return Get(&Sample1(), &Sample2(), dst, n); }
+    static void inputs(void *state, void **out)
+    {
+        out[0] = &of(state).first;
+        out[1] = &of(state).second;
+    }
     static constexpr PageOps ops{sizeof(State), initial, render, schema, set};
 };
 
 // A catalog entry for a page type with `ops` and `sample` (RecordPage, or a
 // page type of a group's own for other argument lists).
 template <typename Page>
-constexpr CatalogEntry page_entry(const char *name, const char *description, const char *readOnly = nullptr)
+constexpr CatalogEntry page_entry(const char *name, const char *description)
 {
-    return CatalogEntry{name, description, Page::sample, true, &Page::ops, readOnly};
+    return CatalogEntry{name, description, Page::sample, true, &Page::ops, Page::inputs};
 }
 
 // The entries of single-record pages, by resource name: a settable one, and
-// a read-only one with the reason.
+// a read-only one.
 #define MW_SETTABLE_ENTRY(resource, description, sample)                                                      \
     page_entry<RecordPage<resource##_record, sample, get_##resource##_json, schema_##resource##_json,          \
                           set_##resource##_json>>("get_" #resource "_json", description)
-#define MW_READ_ONLY_ENTRY(resource, description, reason, sample)                                             \
+#define MW_READ_ONLY_ENTRY(resource, description, sample)                                                     \
     page_entry<ReadOnlyRecordPage<resource##_record, sample, get_##resource##_json, schema_##resource##_json>>( \
-        "get_" #resource "_json", description, reason)
+        "get_" #resource "_json", description)
 
 struct CatalogGroup {
     const char *name;

@@ -111,7 +111,7 @@ const CatalogEntry entries[] = {
     IOT_ENTRY(event_iot_notify, event_notify_record, "HTTP notification targets of each IoT alarm rule", fill_notify),
     IOT_ENTRY(event_iot_osd_blink, event_osd_blink_record, "on-screen display blinking on each IoT alarm rule",
               fill_osd_blink),
-    MW_READ_ONLY_ENTRY(event_iot_alarm_status, "current IoT alarm state", "live alarm states",
+    MW_READ_ONLY_ENTRY(event_iot_alarm_status, "current IoT alarm state",
                        (kept<event_iot_alarm_status_record, sample_alarm_status>)),
 };
 

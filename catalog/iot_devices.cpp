@@ -182,7 +182,7 @@ const CatalogEntry entries[] = {
                       (sample_in_place<iot_radios_setting_record, fill_radios>)),
     MW_SETTABLE_ENTRY(iot_profile_setting, "LoRaWAN device profiles in use",
                       (sample_in_place<iot_profile_setting_record, fill_profiles>)),
-    MW_READ_ONLY_ENTRY(iot_devices_management, "registered IoT devices with their sensor readings", "live readings",
+    MW_READ_ONLY_ENTRY(iot_devices_management, "registered IoT devices with their sensor readings",
                        (kept<iot_devices_management_record, sample_devices>)),
     MW_SETTABLE_ENTRY(iot_alarm_settings, "threshold alarm rules on the IoT sensors",
                       (sample_in_place<iot_alarm_settings_record, fill_alarm_settings>)),

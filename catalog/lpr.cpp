@@ -248,6 +248,12 @@ struct CountPage {
     static int32_t schema(void *state, char *dst, int32_t n) { return Schema(held(state), of(state).entries, dst, n); }
     static int32_t *count(void *state) { return &of(state).count; }
     static int32_t sample(char *dst, int32_t n) { return Get(SampleCount, Sample, dst, n); }
+    static void inputs(void *state, void **out)
+    {
+        of(state).count = held(state);
+        out[0] = &of(state).count;
+        out[1] = of(state).entries;
+    }
     static constexpr PageOps ops{sizeof(State), initial, render, schema, nullptr, count, "count"};
 };
 
@@ -264,6 +270,7 @@ struct RadarTestPage {
     }
     static int32_t *value(void *state) { return static_cast<int32_t *>(state); }
     static int32_t sample(char *dst, int32_t n) { return get_lpr_radar_test_json(1, dst, n); }
+    static void inputs(void *state, void **out) { out[0] = state; }
     static constexpr PageOps ops{sizeof(int32_t), initial, render, schema, nullptr, value, "radarTest"};
 };
 
@@ -296,6 +303,11 @@ struct AttrEventPage {
     {
         return get_lpr_attr_event_json(kAttrRules, &kept<lpr_attr_schedule, sample_attr_schedule>(), dst, n);
     }
+    static void inputs(void *state, void **out)
+    {
+        out[0] = of(state).rules;
+        out[1] = &of(state).schedule;
+    }
     static constexpr PageOps ops{sizeof(State), initial, render, schema, set};
 };
 
@@ -317,22 +329,21 @@ const CatalogEntry entries[] = {
                    "visitor list switch, direction and weekly schedule", visitor_list, inbound),
     MW_SETTABLE_ENTRY(lpr_list_sche, "task schedules of the four plate list rules per weekday",
                       (kept<lpr_list_sche_record, sample_list_sche>)),
-    MW_READ_ONLY_ENTRY(lpr_upload_status, "state of the plate result upload", "live upload state",
+    MW_READ_ONLY_ENTRY(lpr_upload_status, "state of the plate result upload",
                        (kept<lpr_upload_status_record, sample_upload_status>)),
     MW_SETTABLE_ENTRY(lpr_wildcards, "plate-format wildcards of the plate filter",
                       (kept<lpr_wildcards_record, sample_wildcards>)),
     page_entry<CountPage<lpr_last_data_entry, 3, kLastReads, 3, get_lpr_last_data_json, schema_lpr_last_data_json>>(
-        "get_lpr_last_data_json", "the most recent plate reads as numbered keys", "recent plate reads"),
+        "get_lpr_last_data_json", "the most recent plate reads as numbered keys"),
     MW_SETTABLE_ENTRY(lpr_radar_config, "speed radar installation, overlay, alarms and export",
                       (kept<lpr_radar_config_record, sample_radar>)),
-    page_entry<RadarTestPage>("get_lpr_radar_test_json", "state of the radar self-test", "a test's result"),
+    page_entry<RadarTestPage>("get_lpr_radar_test_json", "state of the radar self-test"),
     page_entry<CountPage<lpr_radar_detect_entry, 2, kRadarTargets, 2, get_lpr_radar_detect_data_json,
                          schema_lpr_radar_detect_data_json>>("get_lpr_radar_detect_data_json",
-                                                             "targets the speed radar currently tracks",
-                                                             "live radar targets"),
+                                                             "targets the speed radar currently tracks"),
     // The attribute rules print whatever buffer they are given.
     CatalogEntry{"get_lpr_attr_event_json", "plate-attribute alarm rules with their switches and schedules",
-                 AttrEventPage::sample, false, &AttrEventPage::ops},
+                 AttrEventPage::sample, false, &AttrEventPage::ops, AttrEventPage::inputs},
 };
 
 #undef LPR_PAIR_ENTRY

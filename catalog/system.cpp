@@ -323,13 +323,13 @@ system_aes_key_record sample_aes_key()
 }
 
 const CatalogEntry entries[] = {
-    MW_READ_ONLY_ENTRY(system_information, "device identity, network state and supported features", "device information",
+    MW_READ_ONLY_ENTRY(system_information, "device identity, network state and supported features",
                        (kept<system_information_record, sample_information>)),
-    MW_READ_ONLY_ENTRY(system_model, "vendor, product name and model", "the unit's model",
+    MW_READ_ONLY_ENTRY(system_model, "vendor, product name and model",
                        (kept<system_model_record, sample_system_model>)),
-    MW_READ_ONLY_ENTRY(system_upgrade_info, "notice of a newer firmware", "notice from the update service",
+    MW_READ_ONLY_ENTRY(system_upgrade_info, "notice of a newer firmware",
                        (kept<system_upgrade_info_record, sample_system_upgrade_info>)),
-    MW_READ_ONLY_ENTRY(system_online_heart, "heartbeat answer with the running software version", "live heartbeat",
+    MW_READ_ONLY_ENTRY(system_online_heart, "heartbeat answer with the running software version",
                        (kept<system_online_heart_record, sample_system_online_heart>)),
     MW_SETTABLE_ENTRY(system_date_time, "date, time zone and NTP",
                       (kept<system_date_time_record, sample_system_date_time>)),
@@ -339,7 +339,7 @@ const CatalogEntry entries[] = {
                       (kept<system_user_record, sample_users>)),
     MW_SETTABLE_ENTRY(system_auto_reboot, "the weekly automatic reboot",
                       (kept<system_auto_reboot_record, sample_system_auto_reboot>)),
-    MW_READ_ONLY_ENTRY(system_aes_key, "the stream-encryption key", "the camera's own key",
+    MW_READ_ONLY_ENTRY(system_aes_key, "the stream-encryption key",
                        (kept<system_aes_key_record, sample_aes_key>)),
     MW_SETTABLE_ENTRY(system_sqa_info, "the administrator's security questions",
                       (kept<system_sqa_info_record, sample_system_sqa_info>)),
@@ -357,7 +357,7 @@ const CatalogEntry entries[] = {
                       (kept<system_authority_record, sample_system_authority>)),
     MW_SETTABLE_ENTRY(system_remote_logs, "sending the log to a remote server",
                       (kept<system_remote_logs_record, sample_system_remote_logs>)),
-    MW_READ_ONLY_ENTRY(system_support_info, "optional pages, ports and the firmware upgrade notice", "support report",
+    MW_READ_ONLY_ENTRY(system_support_info, "optional pages, ports and the firmware upgrade notice",
                        (kept<system_support_info_record, sample_support_info>)),
 };
 

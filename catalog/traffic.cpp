@@ -286,6 +286,11 @@ struct ParkingGeneralPage {
     {
         return ware_get_parking_general_json(&kept<parking_general_record, sample_parking_general>(), kAreas, dst, n);
     }
+    static void inputs(void *state, void **out)
+    {
+        out[0] = &of(state).record;
+        out[1] = const_cast<char *>(of(state).areaList);
+    }
     static constexpr PageOps ops{sizeof(State), initial, render, schema, set};
 };
 

@@ -443,7 +443,8 @@ MW_SETTABLE_PAGE(camera_fish_view_field, [](auto &a, auto &r) {
     a("fisheyeViewField", r.fisheyeViewField);
 })
 
-MW_READ_ONLY_PAGE(camera_all_capability, "what the camera offers", [](auto &a, auto &r) {
+MW_READ_ONLY_RECORD_PAGE(, camera_all_capability, camera_all_capability_record, "what the camera offers", "group", MW_NO_RULES,
+                         [](auto &a, auto &r) {
     switch (r.group) {
     case 100: // PTZ control
         a("ptzControl", r.ptzControl);

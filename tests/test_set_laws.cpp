@@ -643,20 +643,4 @@ TEST_P(SchemaLaws, RunningOutOfMemoryAnywhereFailsCleanly)
 
 INSTANTIATE_TEST_SUITE_P(Catalog, SchemaLaws, ::testing::ValuesIn(described_pages()), entry_name);
 
-TEST(Catalog, ReadOnlyPagesSayWhy)
-{
-    size_t settable = 0;
-    for (const CatalogEntry *e : catalog_entries()) {
-        if (e->page == nullptr)
-            continue;
-        if (e->page->set == nullptr) {
-            EXPECT_TRUE(e->readOnly != nullptr && strlen(e->readOnly) > 3) << e->name;
-        } else {
-            ++settable;
-            EXPECT_EQ(e->readOnly, nullptr) << e->name;
-        }
-    }
-    EXPECT_GT(settable, 0u);
-}
-
 } // namespace

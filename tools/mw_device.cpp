@@ -107,8 +107,8 @@ std::string index_document()
         cJSON_AddStringToObject(item, "group", page->group.c_str());
         cJSON_AddBoolToObject(item, "settable", page->entry->page->set != nullptr);
         cJSON_AddStringToObject(item, "description", page->entry->description);
-        if (page->entry->readOnly != nullptr)
-            cJSON_AddStringToObject(item, "readOnly", page->entry->readOnly);
+        if (const char *why = catalog_read_only(*page->entry))
+            cJSON_AddStringToObject(item, "readOnly", why);
         if (page->entry->page->argumentName != nullptr)
             cJSON_AddStringToObject(item, "argument", page->entry->page->argumentName);
         cJSON_AddItemToArray(list, item);

@@ -63,8 +63,8 @@ int main(int argc, char **argv)
     if (strcmp(argv[1], "--list") == 0) {
         for (const CatalogEntry *entry : entries) {
             const char *kind = entry->page == nullptr ? "reply" : entry->page->set != nullptr ? "settable" : "read-only";
-            if (entry->readOnly != nullptr)
-                printf("%-48s %-9s %s (read-only: %s)\n", entry->name, kind, entry->description, entry->readOnly);
+            if (const char *why = catalog_read_only(*entry))
+                printf("%-48s %-9s %s (read-only: %s)\n", entry->name, kind, entry->description, why);
             else
                 printf("%-48s %-9s %s\n", entry->name, kind, entry->description);
         }

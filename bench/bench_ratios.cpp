@@ -3,7 +3,9 @@
  * time beside cJSON_Print alone on an equal tree (the serializer's output
  * parsed back), and the set function's time beside cJSON_Parse alone of the
  * same body (the page's own document). Ratios per document, then the catalog's
- * totals (sum over sum) and median.
+ * totals (sum over sum) and median. Beside them, what one render and one set
+ * allocate through cJSON's hooks (which every allocation of the library goes
+ * through): how many allocations, and the most bytes held at once.
  *
  *   middleware_ratios [--filter TEXT] [--quick]
  */
@@ -12,6 +14,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -44,6 +47,52 @@ double time_ns(F &&f)
     return best;
 }
 
+// cJSON's allocations, counted through its hooks. (With hooks of its own
+// cJSON grows a printed text by allocating anew rather than by realloc, so
+// the counts are a little above what the default allocator sees.)
+struct Heap {
+    long allocations = 0;
+    size_t held = 0, peak = 0;
+};
+Heap heap;
+constexpr size_t kHeader = 16; // each block's size, kept in front of it
+
+void *counting_malloc(size_t size)
+{
+    auto *block = static_cast<unsigned char *>(malloc(size + kHeader));
+    if (block == nullptr)
+        return nullptr;
+    memcpy(block, &size, sizeof size);
+    ++heap.allocations;
+    heap.held += size;
+    heap.peak = std::max(heap.peak, heap.held);
+    return block + kHeader;
+}
+
+void counting_free(void *p)
+{
+    if (p == nullptr)
+        return;
+    unsigned char *block = static_cast<unsigned char *>(p) - kHeader;
+    size_t size;
+    memcpy(&size, block, sizeof size);
+    heap.held -= size;
+    free(block);
+}
+
+// What one call of `f` allocates.
+template <typename F>
+Heap counted(F &&f)
+{
+    cJSON_Hooks hooks{counting_malloc, counting_free};
+    cJSON_InitHooks(&hooks);
+    heap = Heap{};
+    f();
+    const Heap used = heap;
+    cJSON_InitHooks(nullptr);
+    return used;
+}
+
 double median(std::vector<double> v)
 {
     if (v.empty())
@@ -70,8 +119,11 @@ int main(int argc, char **argv)
     }
     std::vector<char> out(kBuffer);
     double render = 0, print = 0, set = 0, parse = 0;
+    long renderAllocations = 0, setAllocations = 0;
+    size_t renderPeak = 0, setPeak = 0;
     std::vector<double> renderRatios, setRatios;
-    printf("%-46s %9s %9s %6s   %9s %9s %6s\n", "document", "render", "print", "ratio", "set", "parse", "ratio");
+    printf("%-46s %9s %9s %6s %6s %7s   %9s %9s %6s %6s %7s\n", "document", "render", "print", "ratio", "allocs",
+           "peak", "set", "parse", "ratio", "allocs", "peak");
     for (const CatalogEntry *entry : catalog_entries()) {
         if (entry->page == nullptr || (filter != nullptr && strstr(entry->name, filter) == nullptr))
             continue;
@@ -92,20 +144,31 @@ int main(int argc, char **argv)
             char *printed = cJSON_Print(tree);
             cJSON_free(printed);
         });
+        const Heap rh = counted([&] {
+            memcpy(scratch.data(), state.data(), state.size());
+            page.render(scratch.data(), out.data(), kBuffer);
+        });
         render += r;
         print += p;
+        renderAllocations += rh.allocations;
+        renderPeak = std::max(renderPeak, rh.peak);
         renderRatios.push_back(r / p);
-        printf("%-46s %7.1fus %7.1fus %6.2f", entry->name, r / 1000, p / 1000, r / p);
+        printf("%-46s %7.1fus %7.1fus %6.2f %6ld %6.1fK", entry->name, r / 1000, p / 1000, r / p, rh.allocations,
+               rh.peak / 1024.0);
 
         if (page.set != nullptr) {
             const double s = time_ns([&] {
                 page.set(state.data(), text.data(), static_cast<int32_t>(text.size()), out.data(), kBuffer);
             });
             const double q = time_ns([&] { cJSON_Delete(cJSON_ParseWithLength(text.data(), text.size())); });
+            const Heap sh = counted(
+                [&] { page.set(state.data(), text.data(), static_cast<int32_t>(text.size()), out.data(), kBuffer); });
             set += s;
             parse += q;
+            setAllocations += sh.allocations;
+            setPeak = std::max(setPeak, sh.peak);
             setRatios.push_back(s / q);
-            printf("   %7.1fus %7.1fus %6.2f", s / 1000, q / 1000, s / q);
+            printf("   %7.1fus %7.1fus %6.2f %6ld %6.1fK", s / 1000, q / 1000, s / q, sh.allocations, sh.peak / 1024.0);
         }
         printf("\n");
         cJSON_Delete(tree);
@@ -114,5 +177,8 @@ int main(int argc, char **argv)
            renderRatios.size(), render / print, median(renderRatios));
     printf("setting over %zu documents: %.2f times cJSON_Parse alone (median document %.2f)\n", setRatios.size(),
            parse > 0 ? set / parse : 0, median(setRatios));
+    printf("allocations: %ld over every render, %ld over every set; the most held at once: %.1f KiB by a render, "
+           "%.1f KiB by a set\n",
+           renderAllocations, setAllocations, renderPeak / 1024.0, setPeak / 1024.0);
     return 0;
 }

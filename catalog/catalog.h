@@ -183,6 +183,9 @@ std::vector<const CatalogGroup *> catalog_groups();
 std::vector<const CatalogEntry *> catalog_entries();
 // The entry rendered by `name`, or nullptr.
 const CatalogEntry *catalog_find(const char *name);
+// Fills every text the page shows from `state` to its whole array, without a
+// NUL, each member with a byte of its own (texts inside the state only).
+void catalog_fill_texts(const CatalogEntry &entry, void *state);
 
 // A sample record too large to copy or to build on the stack (the alarm
 // action records hold 48 event types, the audio one 48 x 7 schedule texts):

@@ -108,13 +108,20 @@ std::vector<const CatalogEntry *> pages(bool settableOnly, const char *prefix)
 }
 
 const CatalogEntry *pick(const std::vector<const CatalogEntry *> &candidates, const uint8_t *data, size_t size,
-                         const uint8_t **rest, size_t *restSize)
+                         const uint8_t **rest, size_t *restSize, bool *fullTexts)
 {
     const uint8_t *newline = static_cast<const uint8_t *>(memchr(data, '\n', size));
     const size_t nameLength = newline != nullptr ? static_cast<size_t>(newline - data) : 0;
     *rest = newline != nullptr ? newline + 1 : data;
     *restSize = size - (newline != nullptr ? nameLength + 1 : 0);
-    const std::string name(reinterpret_cast<const char *>(data), nameLength);
+    std::string name(reinterpret_cast<const char *>(data), nameLength);
+    static const std::string kFull = " full";
+    const bool full = name.size() > kFull.size() && name.compare(name.size() - kFull.size(), kFull.size(), kFull) == 0;
+    if (fullTexts != nullptr) {
+        *fullTexts = full;
+        if (full)
+            name.resize(name.size() - kFull.size());
+    }
     uint32_t hash = 2166136261u;
     for (const CatalogEntry *e : candidates)
         if (name == e->name)

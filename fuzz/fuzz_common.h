@@ -20,9 +20,10 @@ namespace fuzz {
 std::vector<const CatalogEntry *> pages(bool settableOnly, const char *prefix = "");
 
 // Splits "NAME\nREST": the page of that name among `candidates` (or, for an
-// unknown name, the one the name's bytes pick) and REST.
+// unknown name, the one the name's bytes pick) and REST. A first line
+// "NAME full" sets *fullTexts (when asked for).
 const CatalogEntry *pick(const std::vector<const CatalogEntry *> &candidates, const uint8_t *data, size_t size,
-                         const uint8_t **rest, size_t *restSize);
+                         const uint8_t **rest, size_t *restSize, bool *fullTexts = nullptr);
 
 // Copies `bytes` over a state started from the page's sample, keeping every
 // word of the sample that holds an address (a record pointing at its sample

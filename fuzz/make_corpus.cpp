@@ -1,6 +1,8 @@
 // Writes the fuzz targets' seed corpora and the dictionary of the pages' keys
 // from the catalog:   make_corpus FUZZ_DIR
 //   corpus/set/NAME          "NAME\n" and the page's document
+//   corpus/set/NAME.full     "NAME full\n" and the document of a state whose
+//                            texts fill their arrays
 //   corpus/serializers/NAME  "NAME\n" and the bytes of the page's sample state
 //   corpus/capability/NAME   the same for the capability documents
 //   corpus/readers/*         a key line, four bytes, a request document
@@ -62,8 +64,13 @@ int main(int argc, char **argv)
         cJSON *doc = cJSON_Parse(out.data());
         keys_of(doc, keys);
         cJSON_Delete(doc);
-        if (e->page->set != nullptr)
-            write(dir + "/corpus/set/" + e->name, head + out.data());
+        if (e->page->set == nullptr)
+            continue;
+        write(dir + "/corpus/set/" + e->name, head + out.data());
+        // The same page from a state whose texts fill their arrays.
+        catalog_fill_texts(*e, state.data());
+        if (e->page->render(state.data(), out.data(), static_cast<int32_t>(out.size())) == 0)
+            write(dir + "/corpus/set/" + e->name + ".full", std::string(e->name) + " full\n" + out.data());
     }
     const char *requests[] = {
         "enable\n\x01\x10\x04\x08{\"enable\": 1, \"name\": \"gate\", \"list\": [{\"index\": 1, \"i\": \"x\"}]}",

@@ -7,6 +7,7 @@
 
 #include <cfloat>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 namespace mw {
@@ -340,6 +341,44 @@ cJSON *render_tree(const Page &page, void *const *inputs)
 
 /* ==== applying a set request: In ==== */
 
+/* A list's elements by their index key, sorted: an element is found by a
+   binary search, and a repeated index in one pass. */
+struct Slot {
+    int32_t index;
+    int32_t place;
+    cJSON *element;
+};
+
+struct ListIndex {
+    Slot *slots = nullptr;
+    int32_t count = 0;
+    ListIndex() = default;
+    ListIndex(const ListIndex &) = delete;
+    ListIndex &operator=(const ListIndex &) = delete;
+    ~ListIndex() { cJSON_free(slots); }
+
+    cJSON *find(int32_t index) const
+    {
+        int32_t low = 0, high = count;
+        while (low < high) {
+            const int32_t mid = low + (high - low) / 2;
+            if (slots[mid].index < index)
+                low = mid + 1;
+            else
+                high = mid;
+        }
+        return low < count && slots[low].index == index ? slots[low].element : nullptr;
+    }
+};
+
+int by_index_then_place(const void *a, const void *b)
+{
+    const Slot &x = *static_cast<const Slot *>(a), &y = *static_cast<const Slot *>(b);
+    if (x.index != y.index)
+        return x.index < y.index ? -1 : 1;
+    return x.place < y.place ? -1 : (x.place > y.place ? 1 : 0);
+}
+
 /* What one set request carries through its description: the refusal (the
    first one stops the walk), the path to where the walk stands, and the
    current document, built only when a read-only key must be compared with
@@ -366,8 +405,7 @@ public:
     size_t enter_item(const char *indexKey, int32_t index);
     void leave(size_t mark) { depth_ = mark; }
 
-    bool check_list(cJSON *array, const char *indexKey);
-    cJSON *element(cJSON *array, const char *indexKey, int32_t index);
+    bool check_list(cJSON *array, const char *indexKey, ListIndex &index);
     void refuse_unmatched(cJSON *array, const char *indexKey);
     void refuse_unread(cJSON *object);
 
@@ -525,54 +563,58 @@ size_t Session::enter_item(const char *indexKey, int32_t index)
     return mark;
 }
 
-bool Session::check_list(cJSON *array, const char *indexKey)
+bool Session::check_list(cJSON *array, const char *indexKey, ListIndex &index)
 {
     if (failed_)
         return false;
-    int32_t place = 0;
-    for (cJSON *e = array->child; e != nullptr; e = e->next, ++place) {
-        if (indexKey == nullptr) {
-            if (!cJSON_IsObject(e)) {
-                const size_t mark = enter_item(nullptr, place);
-                refuse(nullptr);
-                leave(mark);
-                return false;
-            }
-            continue;
-        }
-        // Each element names its slot with an integral index of its own.
-        double index = 0;
-        if (!cJSON_IsObject(e) || !number_fits(member(e, indexKey), INT32_MIN, INT32_MAX, true, &index)) {
-            refuse(indexKey);
+    const int32_t size = cJSON_GetArraySize(array);
+    if (indexKey != nullptr && size > 0) {
+        index.slots = static_cast<Slot *>(cJSON_malloc(static_cast<size_t>(size) * sizeof(Slot)));
+        if (index.slots == nullptr) {
+            refuse(nullptr);
             return false;
         }
-        for (cJSON *earlier = array->child; earlier != e; earlier = earlier->next) {
-            if (member(earlier, indexKey)->valuedouble == index) {
-                const size_t mark = enter_item(indexKey, static_cast<int32_t>(index));
-                refuse(nullptr);
-                leave(mark);
-                return false;
-            }
+    }
+    // The first element that is not an object, or has no integral index of
+    // its own: only the elements before it are looked at for repeats.
+    int32_t place = 0, bad = -1;
+    for (cJSON *e = array->child; e != nullptr && bad < 0; e = e->next, ++place) {
+        double value = 0;
+        if (!cJSON_IsObject(e) ||
+            (indexKey != nullptr && !number_fits(member(e, indexKey), INT32_MIN, INT32_MAX, true, &value)))
+            bad = place;
+        else if (indexKey != nullptr)
+            index.slots[index.count++] = Slot{static_cast<int32_t>(value), place, e};
+    }
+    // The first element, in document order, that repeats an earlier index.
+    if (index.count > 1)
+        qsort(index.slots, static_cast<size_t>(index.count), sizeof(Slot), by_index_then_place);
+    int32_t repeat = -1, repeated = 0;
+    for (int32_t i = 1; i < index.count; ++i) {
+        if (index.slots[i].index == index.slots[i - 1].index &&
+            (i < 2 || index.slots[i - 2].index != index.slots[i].index) &&
+            (repeat < 0 || index.slots[i].place < repeat)) {
+            repeat = index.slots[i].place;
+            repeated = index.slots[i].index;
         }
     }
-    return true;
-}
-
-cJSON *Session::element(cJSON *array, const char *indexKey, int32_t index)
-{
-    if (failed_)
-        return nullptr;
-    cJSON *found = nullptr;
-    if (indexKey == nullptr) {
-        found = cJSON_GetArrayItem(array, index);
-    } else {
-        for (cJSON *e = array->child; e != nullptr && found == nullptr; e = e->next)
-            if (member(e, indexKey)->valuedouble == static_cast<double>(index))
-                found = e;
+    if (repeat >= 0) {
+        const size_t mark = enter_item(indexKey, repeated);
+        refuse(nullptr);
+        leave(mark);
+        return false;
     }
-    if (found != nullptr)
-        found->type |= kRead;
-    return found;
+    if (bad >= 0) {
+        if (indexKey != nullptr) {
+            refuse(indexKey);
+        } else {
+            const size_t mark = enter_item(nullptr, bad);
+            refuse(nullptr);
+            leave(mark);
+        }
+        return false;
+    }
+    return true;
 }
 
 void Session::refuse_unmatched(cJSON *array, const char *indexKey)
@@ -708,8 +750,9 @@ public:
             return;
         }
         const size_t mark = s_.enter(key);
-        if (s_.check_list(v, indexKey)) {
-            List l(s_, v, indexKey);
+        ListIndex index;
+        if (s_.check_list(v, indexKey, index)) {
+            List l(s_, v, indexKey, index);
             fill(l);
             s_.refuse_unmatched(v, indexKey);
         }
@@ -735,22 +778,26 @@ public:
 private:
     class List final : public Items {
     public:
-        List(Session &s, cJSON *array, const char *indexKey) : s_(s), array_(array), indexKey_(indexKey) {}
-        void indexed(int32_t index, Fn<Archive &> fill) override
+        List(Session &s, cJSON *array, const char *indexKey, const ListIndex &index)
+            : s_(s), next_(array->child), indexKey_(indexKey), index_(index)
         {
-            apply(s_.element(array_, indexKey_, index), index, fill);
         }
+        void indexed(int32_t index, Fn<Archive &> fill) override { apply(index_.find(index), index, fill); }
+        /* The elements of a list without an index key, taken in turn. */
         void placed(Fn<Archive &> fill) override
         {
-            const int32_t place = place_++;
-            apply(s_.element(array_, nullptr, place), place, fill);
+            cJSON *element = next_;
+            if (next_ != nullptr)
+                next_ = next_->next;
+            apply(element, place_++, fill);
         }
 
     private:
         void apply(cJSON *element, int32_t index, Fn<Archive &> &fill)
         {
-            if (element == nullptr)
+            if (element == nullptr || s_.failed())
                 return;
+            element->type |= kRead;
             const size_t mark = s_.enter_item(indexKey_, index);
             In sub(s_, element);
             if (indexKey_ != nullptr)
@@ -760,8 +807,9 @@ private:
             s_.leave(mark);
         }
         Session &s_;
-        cJSON *array_;
+        cJSON *next_;
         const char *indexKey_;
+        const ListIndex &index_;
         int32_t place_ = 0;
     };
 
@@ -1184,8 +1232,10 @@ int32_t apply(void *const *inputs, const char *body, int32_t bodySize, char *dst
             zk_return_format_error_json(dst, dstSize, session.refused_key());
         } else if (page.accept != nullptr && !page.accept(inputs, staged, path, sizeof path)) {
             zk_return_format_error_json(dst, dstSize, path);
-        } else if (zk_return_set_request_succeed_json(dst, dstSize) == 0) {
-            // Only a request that was answered changes the record.
+        } else {
+            // The success envelope as zk_return_set_request_succeed_json
+            // prints it, without building it again for every request.
+            snprintf(dst, static_cast<size_t>(dstSize), "%s", "{\n\t\"setState\":\t\"succeed\"\n}");
             for (size_t i = 0; i < count; ++i)
                 memcpy(inputs[i], staged[i], page.sizes[i]);
             rc = 0;

@@ -568,6 +568,55 @@ TEST_P(SetLaws, RunningOutOfMemoryAnywhereFailsCleanly)
     }
 }
 
+// A text that fills its array cannot be posted to a settable key (which holds
+// at most one byte less), but it can be repeated under a read-only key: the
+// request compares it with what the page shows now, read no further than the
+// array. Posting the document back without its settable texts changes
+// nothing; changing one byte of a read-only text is refused at that key.
+TEST_P(SetLaws, ReadOnlyTextsThatFillTheirArraysAreComparedWhole)
+{
+    State state(page());
+    catalog_fill_texts(*GetParam(), state.bytes.data());
+    const std::string rendered = state.render();
+    std::vector<char> out(kBuffer);
+    ASSERT_EQ(page().schema(state.bytes.data(), out.data(), kBuffer), 0);
+    cJSON *doc = parse(rendered), *schema = parse(out.data());
+    Map map(doc, schema);
+    std::vector<const Leaf *> readOnlyTexts;
+    cJSON *body = cJSON_Duplicate(doc, true);
+    for (const Leaf &leaf : map.leaves) {
+        if (type_of(leaf.schema) != "string")
+            continue;
+        if (leaf.readOnly) {
+            readOnlyTexts.push_back(&leaf);
+        } else {
+            cJSON *parent = locate(body, std::vector<Step>(leaf.steps.begin(), leaf.steps.end() - 1));
+            cJSON_DeleteItemFromObjectCaseSensitive(parent, leaf.steps.back().key.c_str());
+        }
+    }
+    if (readOnlyTexts.empty()) {
+        cJSON_Delete(body), cJSON_Delete(doc), cJSON_Delete(schema);
+        GTEST_SKIP() << "no read-only text key";
+    }
+    const std::vector<unsigned char> before = state.bytes;
+    std::string reply;
+    EXPECT_EQ(state.set(print(body), &reply), 0) << reply;
+    EXPECT_TRUE(state.bytes == before) << "posting the read-only texts back changed the record";
+    for (size_t i : spread(readOnlyTexts.size(), kMostKeysPerPage)) {
+        const Leaf &leaf = *readOnlyTexts[i];
+        std::string text = locate(doc, leaf.steps)->valuestring;
+        if (text.empty())
+            continue;
+        text.back() = text.back() == '#' ? '%' : '#';
+        cJSON *changed = with_value(body, leaf.steps, cJSON_CreateString(text.c_str()));
+        EXPECT_EQ(state.set(print(changed), &reply), -1) << leaf.path;
+        EXPECT_EQ(reply, format_error(leaf.path));
+        EXPECT_TRUE(state.bytes == before) << leaf.path << ": a refused request changed the record";
+        cJSON_Delete(changed);
+    }
+    cJSON_Delete(body), cJSON_Delete(doc), cJSON_Delete(schema);
+}
+
 std::string entry_name(const ::testing::TestParamInfo<const CatalogEntry *> &info) { return info.param->name; }
 
 INSTANTIATE_TEST_SUITE_P(Catalog, SetLaws, ::testing::ValuesIn(settable_pages()), entry_name);

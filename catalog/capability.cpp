@@ -187,7 +187,9 @@ struct CapabilityPage {
     static int32_t schema(void *state, char *dst, int32_t n) { return on_copy<Schema>(state, dst, n); }
     static int32_t *count(void *state) { return &static_cast<State *>(state)->count; }
     static int32_t sample(char *dst, int32_t n) { return on_copy<Get>(&Sample(), dst, n); }
-    static constexpr PageOps ops{sizeof(State), initial, render, schema, nullptr, count, "count"};
+    // Up to the entries the record (or the general document's array) holds.
+    static constexpr int32_t kHeld = sizeof(State::record.entries) / sizeof(cap_entry);
+    static constexpr PageOps ops{sizeof(State), initial, render, schema, nullptr, count, "count", 0, kHeld};
 };
 
 const char *const kOffered = "what the camera offers";

@@ -127,12 +127,21 @@ void share_weeks(cJSON *schema, Shared &shared)
                 name = shared.weeks.size() == 1 ? "WeeklySchedule"
                                                   : "WeeklySchedule" + std::to_string(shared.weeks.size());
                 cJSON *week = cJSON_Duplicate(p, true);
+                // Each day pinned to its place by prefixItems; "items" says
+                // what any day looks like (for readers of "items" alone).
+                cJSON *day = cJSON_Duplicate(cJSON_GetArrayItem(member(week, "prefixItems"), 0), true);
+                cJSON *index = member(member(day, "properties"), "scheduleIndex");
+                cJSON_DeleteItemFromObjectCaseSensitive(index, "const");
+                cJSON_AddNumberToObject(index, "minimum", 0);
+                cJSON_AddNumberToObject(index, "maximum", 6);
+                cJSON_ReplaceItemInObjectCaseSensitive(week, "items", day);
                 cJSON_AddStringToObject(week, "description",
                                         "The week's schedule: seven days, scheduleIndex 0 (Sunday) to 6, each "
                                         "with its time ranges as text.");
                 cJSON_AddItemToObject(shared.schemas, name.c_str(), week);
             }
-            cJSON_ReplaceItemViaPointer(properties, p, schema_ref(name));
+            const std::string key = p->string;
+            cJSON_ReplaceItemInObjectCaseSensitive(properties, key.c_str(), schema_ref(name));
         } else {
             share_weeks(p, shared);
         }
@@ -163,8 +172,47 @@ void share_event_type_objects(cJSON *schema, const std::string &resource, Shared
     cJSON_AddItemToObject(shared.schemas, name.c_str(), shape);
     for (cJSON *p = first; p != nullptr;) {
         cJSON *next = p->next;
-        cJSON_ReplaceItemViaPointer(properties, p, schema_ref(name));
+        const std::string key = p->string;
+        cJSON_ReplaceItemInObjectCaseSensitive(properties, key.c_str(), schema_ref(name));
         p = next;
+    }
+}
+
+// The schema `schema` stands for, following a reference to a component.
+const cJSON *resolved(const cJSON *schema, const cJSON *schemas)
+{
+    const cJSON *r = member(schema, "$ref");
+    const char *prefix = "#/components/schemas/";
+    if (cJSON_IsString(r) && strncmp(r->valuestring, prefix, strlen(prefix)) == 0)
+        return member(schemas, r->valuestring + strlen(prefix));
+    return schema;
+}
+
+// Leaves out of a document every member its schema marks read-only, through
+// objects and list elements: the set request's example, what a client
+// changes (it may send the rest back unchanged, but need not).
+void strip_read_only(cJSON *doc, const cJSON *schema, const cJSON *schemas)
+{
+    schema = resolved(schema, schemas);
+    if (cJSON_IsObject(doc)) {
+        const cJSON *properties = member(schema, "properties");
+        cJSON *m = doc->child;
+        while (m != nullptr) {
+            cJSON *next = m->next;
+            const cJSON *described = resolved(member(properties, m->string), schemas);
+            if (cJSON_IsTrue(member(described, "readOnly")))
+                cJSON_Delete(cJSON_DetachItemViaPointer(doc, m));
+            else
+                strip_read_only(m, described, schemas);
+            m = next;
+        }
+    } else if (cJSON_IsArray(doc)) {
+        const cJSON *prefix = member(schema, "prefixItems");
+        int at = 0;
+        for (cJSON *e = doc->child; e != nullptr; e = e->next, ++at) {
+            const cJSON *item = at < cJSON_GetArraySize(prefix) ? cJSON_GetArrayItem(prefix, at) : member(schema, "items");
+            strip_read_only(e, item, schemas);
+        }
     }
 }
 
@@ -276,8 +324,12 @@ void add_components(cJSON *components, cJSON *schemas)
     cJSON_AddStringToObject(document, "description", "An OpenAPI 3.1 document.");
     cJSON_AddStringToObject(document, "type", "object");
     cJSON *required = cJSON_AddArrayToObject(document, "required");
-    for (const char *k : {"openapi", "info", "paths"})
+    cJSON *documentKeys = cJSON_AddObjectToObject(document, "properties");
+    for (const char *k : {"openapi", "info", "paths"}) {
         cJSON_AddItemToArray(required, cJSON_CreateString(k));
+        cJSON_AddStringToObject(cJSON_AddObjectToObject(documentKeys, k), "type",
+                                strcmp(k, "openapi") == 0 ? "string" : "object");
+    }
     cJSON_AddItemToObject(schemas, "OpenApiDocument", document);
 
     // Headers.
@@ -431,8 +483,11 @@ void add_page(cJSON *paths, const CatalogGroup &group, const CatalogEntry &entry
         cJSON_AddTrueToObject(body, "required");
         cJSON *media = cJSON_CreateObject();
         cJSON_AddItemToObject(media, "schema", schema_ref(resource));
-        if (sample != nullptr)
-            cJSON_AddItemToObject(media, "example", cJSON_Duplicate(sample, true));
+        if (sample != nullptr) {
+            cJSON *example = cJSON_Duplicate(sample, true);
+            strip_read_only(example, schema, shared.schemas);
+            cJSON_AddItemToObject(media, "example", example);
+        }
         cJSON_AddItemToObject(cJSON_AddObjectToObject(body, "content"), kJson, media);
         cJSON *postResponses = cJSON_AddObjectToObject(post, "responses");
         cJSON_AddItemToObject(postResponses, "200", response_ref("SetSucceed"));
@@ -608,7 +663,9 @@ cJSON *document()
 std::string openapi_json()
 {
     cJSON *root = document();
-    char *text = cJSON_Print(root);
+    // Without the tab indentation of the pages' documents: tabs are not
+    // indentation to tools that read the document as YAML.
+    char *text = cJSON_PrintUnformatted(root);
     std::string out = text != nullptr ? text : "";
     cJSON_free(text);
     cJSON_Delete(root);

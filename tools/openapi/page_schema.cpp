@@ -136,6 +136,18 @@ cJSON *merge_objects(const cJSON *a, const cJSON *b)
         else
             put(properties, p->string, merge(mine, p));
     }
+    const cJSON *pb = nullptr;
+    cJSON_ArrayForEach(pb, member(b, "patternProperties"))
+    {
+        cJSON *patterns = member(out, "patternProperties");
+        if (patterns == nullptr)
+            patterns = cJSON_AddObjectToObject(out, "patternProperties");
+        const cJSON *mine = member(patterns, pb->string);
+        if (mine == nullptr)
+            cJSON_AddItemToObject(patterns, pb->string, cJSON_Duplicate(pb, true));
+        else
+            put(patterns, pb->string, merge(mine, pb));
+    }
     cJSON *required = cJSON_CreateArray();
     const cJSON *r = nullptr;
     cJSON_ArrayForEach(r, member(a, "required")) if (has_string(member(b, "required"), r->valuestring))
@@ -265,23 +277,119 @@ void open_lists(cJSON *schema, const char *key)
     open_lists(member(schema, "items"), nullptr);
     if (strcmp(type_of(schema), "array") != 0 || is_week(key, schema))
         return;
+    // A number array lists what the record holds (non-zero rates, the
+    // entries of a count): its length too follows the record.
+    cJSON_DeleteItemFromObjectCaseSensitive(schema, "minItems");
+    cJSON_DeleteItemFromObjectCaseSensitive(schema, "maxItems");
     const cJSON *prefix = member(schema, "prefixItems");
-    const bool isList = prefix != nullptr || cJSON_IsFalse(member(schema, "items"));
-    if (!isList)
-        return; // a number array: as long as its C array, in every state
+    if (prefix == nullptr && !cJSON_IsFalse(member(schema, "items")))
+        return;
     std::vector<const cJSON *> elements;
     elements_of(schema, elements);
     cJSON *items = nullptr;
+    std::vector<std::string> indexKeys; // an element's own number: "index", "regionIndex", ...
     for (const cJSON *e : elements) {
+        const cJSON *p = nullptr;
+        cJSON_ArrayForEach(p, member(e, "properties")) if (member(p, "const") != nullptr &&
+                                                           std::find(indexKeys.begin(), indexKeys.end(), p->string) ==
+                                                               indexKeys.end()) indexKeys.push_back(p->string);
         cJSON *m = items == nullptr ? cJSON_Duplicate(e, true) : merge(items, e);
         cJSON_Delete(items);
         items = m;
     }
+    // The index values the sample's elements carry are not the only ones a
+    // list of another length carries: an index key is any whole number.
+    for (const std::string &k : indexKeys) {
+        cJSON *index = member(member(items, "properties"), k.c_str());
+        cJSON_DeleteItemFromObjectCaseSensitive(index, "const");
+        cJSON_DeleteItemFromObjectCaseSensitive(index, "minimum");
+        cJSON_DeleteItemFromObjectCaseSensitive(index, "maximum");
+    }
     cJSON_DeleteItemFromObjectCaseSensitive(schema, "prefixItems");
-    cJSON_DeleteItemFromObjectCaseSensitive(schema, "minItems");
-    cJSON_DeleteItemFromObjectCaseSensitive(schema, "maxItems");
     // An empty list in the sample says nothing about its elements' shape.
     put(schema, "items", items != nullptr ? items : cJSON_CreateObject());
+}
+
+// "preset_3" -> "^preset_-?[0-9]+$", "fish_0_PtzTourStatus_1" ->
+// "^fish_-?[0-9]+_PtzTourStatus_-?[0-9]+$": the pattern of a numbered key
+// (a number between underscores or after the last one), or "" for others.
+std::string numbered_pattern(const char *key)
+{
+    std::string out = "^";
+    bool numbered = false;
+    for (const char *c = key; *c != '\0';) {
+        const char *digits = c + 1;
+        if (*c == '_' && *digits == '-')
+            ++digits;
+        const char *end = digits;
+        while (*c == '_' && *end >= '0' && *end <= '9')
+            ++end;
+        if (*c == '_' && end > digits && (*end == '\0' || *end == '_')) {
+            out += "_-?[0-9]+";
+            numbered = true;
+            c = end;
+            continue;
+        }
+        if (strchr("\\^$.|?*+()[]{}", *c) != nullptr)
+            out += '\\';
+        out += *c++;
+    }
+    return numbered ? out + "$" : "";
+}
+
+// Keys numbered by the record (the slots of a table printed as "name_<i>"
+// keys) become patterns: any number of them, none required. A key is taken
+// for numbered when at least two keys of the object share its pattern.
+void number_keys(cJSON *schema)
+{
+    if (!cJSON_IsObject(schema))
+        return;
+    cJSON *p = nullptr;
+    cJSON_ArrayForEach(p, member(schema, "properties")) number_keys(p);
+    cJSON_ArrayForEach(p, member(schema, "anyOf")) number_keys(p);
+    cJSON_ArrayForEach(p, member(schema, "prefixItems")) number_keys(p);
+    number_keys(member(schema, "items"));
+    cJSON *properties = member(schema, "properties");
+    if (properties == nullptr)
+        return;
+    std::vector<std::string> patterns;
+    std::vector<int> counts;
+    cJSON_ArrayForEach(p, properties)
+    {
+        const std::string pattern = numbered_pattern(p->string);
+        if (pattern.empty())
+            continue;
+        const auto at = std::find(patterns.begin(), patterns.end(), pattern);
+        if (at == patterns.end()) {
+            patterns.push_back(pattern);
+            counts.push_back(1);
+        } else {
+            ++counts[static_cast<size_t>(at - patterns.begin())];
+        }
+    }
+    for (size_t i = 0; i < patterns.size(); ++i) {
+        if (counts[i] < 2)
+            continue;
+        cJSON *merged = nullptr;
+        for (cJSON *m = properties->child; m != nullptr;) {
+            cJSON *next = m->next;
+            if (numbered_pattern(m->string) == patterns[i]) {
+                cJSON *x = merged == nullptr ? cJSON_Duplicate(m, true) : merge(merged, m);
+                cJSON_Delete(merged);
+                merged = x;
+                cJSON *required = member(schema, "required");
+                for (int r = cJSON_GetArraySize(required) - 1; r >= 0; --r)
+                    if (strcmp(cJSON_GetArrayItem(required, r)->valuestring, m->string) == 0)
+                        cJSON_DeleteItemFromArray(required, r);
+                cJSON_Delete(cJSON_DetachItemViaPointer(properties, m));
+            }
+            m = next;
+        }
+        cJSON *patternProperties = member(schema, "patternProperties");
+        if (patternProperties == nullptr)
+            patternProperties = cJSON_AddObjectToObject(schema, "patternProperties");
+        cJSON_AddItemToObject(patternProperties, patterns[i].c_str(), merged);
+    }
 }
 
 cJSON *schema_of_state(const PageOps &ops, std::vector<unsigned char> &state, std::vector<char> &buffer)
@@ -310,6 +418,7 @@ cJSON *page_document_schema(const CatalogEntry &entry)
     if (merged == nullptr)
         return nullptr;
     open_lists(merged, nullptr);
+    number_keys(merged);
     if (ops.argument != nullptr) {
         std::vector<int64_t> values;
         const int64_t low = ops.argumentMin, high = ops.argumentMax;
@@ -326,6 +435,7 @@ cJSON *page_document_schema(const CatalogEntry &entry)
             if (other == nullptr)
                 continue;
             open_lists(other, nullptr);
+            number_keys(other);
             cJSON *m = merge(merged, other);
             cJSON_Delete(merged);
             cJSON_Delete(other);

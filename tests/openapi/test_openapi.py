@@ -159,7 +159,9 @@ class Document(unittest.TestCase):
                 if settable:
                     self.assertEqual(set(item['post']['responses']), POST_REPLIES)
                     body = item['post']['requestBody']['content']['application/json']
-                    self.assertEqual(body['schema'], {'$ref': '#/components/schemas/' + resource(name)})
+                    self.assertEqual(body['schema'], {'$ref': '#/components/schemas/' + resource(name) + '_set'})
+                    self.assertEqual(body['examples']['document']['value'], ok['example'],
+                                     'a client may post back the document it read')
         for status in sorted(GET_REPLIES | POST_REPLIES):
             sample = DOC['paths']['/api/ptz_wiper']
             reply = resolve(sample['post' if status in POST_REPLIES - GET_REPLIES else 'get']['responses'][status])
@@ -193,6 +195,20 @@ class Document(unittest.TestCase):
         bad = [{}, {'a': 'format error', 'b': 'format error'}, {'a': 'wrong'}]
         for doc in bad:
             self.assertFalse(validator('FormatError').is_valid(doc), doc)
+
+    def test_set_requests_are_partial_and_take_computed_keys_back(self):
+        for name, settable in PAGES:
+            if not settable:
+                continue
+            with self.subTest(page=name):
+                check = validator(resource(name) + '_set')
+                sample = json.loads(run(name))
+                self.assertTrue(check.is_valid(sample), 'the document as read')
+                self.assertTrue(check.is_valid({}), 'keys left out keep their values')
+                self.assertFalse(check.is_valid(dict(sample, zzNoSuchKey=1)), 'an unknown key')
+                text = json.dumps(SCHEMAS[resource(name) + '_set'])
+                self.assertNotIn('"readOnly"', text)
+                self.assertNotIn('"required"', text)
 
     def test_read_only_keys_are_marked(self):
         for name, settable in PAGES:

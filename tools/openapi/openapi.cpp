@@ -216,6 +216,62 @@ void strip_read_only(cJSON *doc, const cJSON *schema, const cJSON *schemas)
     }
 }
 
+// The schema of a set request from a page's document schema: every key
+// optional (keys left out keep their values), and no key marked readOnly, for
+// a client may send the document it read back with its computed keys
+// unchanged (the camera refuses them changed, at their key path). Shared
+// shapes get their own set variant, "<name>_set".
+cJSON *set_schema(const cJSON *schema, cJSON *schemas);
+
+void to_set_schema(cJSON *node, cJSON *schemas)
+{
+    if (cJSON_IsArray(node)) {
+        cJSON *e = nullptr;
+        cJSON_ArrayForEach(e, node) to_set_schema(e, schemas);
+        return;
+    }
+    if (!cJSON_IsObject(node))
+        return;
+    cJSON *r = member(node, "$ref");
+    const char *prefix = "#/components/schemas/";
+    if (cJSON_IsString(r) && strncmp(r->valuestring, prefix, strlen(prefix)) == 0) {
+        const std::string name = std::string(r->valuestring + strlen(prefix)) + "_set";
+        if (member(schemas, name.c_str()) == nullptr) {
+            cJSON *shared = set_schema(member(schemas, r->valuestring + strlen(prefix)), schemas);
+            cJSON_AddItemToObject(schemas, name.c_str(), shared);
+        }
+        cJSON_SetValuestring(r, ("#/components/schemas/" + name).c_str());
+        return;
+    }
+    if (cJSON_IsTrue(member(node, "readOnly"))) {
+        cJSON_DeleteItemFromObjectCaseSensitive(node, "readOnly");
+        if (member(node, "description") == nullptr)
+            cJSON_AddStringToObject(node, "description", "Computed by the camera: may be sent back unchanged.");
+    }
+    cJSON_DeleteItemFromObjectCaseSensitive(node, "required");
+    for (cJSON *c = node->child; c != nullptr; c = c->next) {
+        if (strcmp(c->string, "properties") == 0 || strcmp(c->string, "patternProperties") == 0) {
+            cJSON *p = nullptr;
+            cJSON_ArrayForEach(p, c) to_set_schema(p, schemas);
+        } else if (strcmp(c->string, "items") == 0 || strcmp(c->string, "prefixItems") == 0 ||
+                   strcmp(c->string, "anyOf") == 0 || strcmp(c->string, "additionalProperties") == 0) {
+            to_set_schema(c, schemas);
+        }
+    }
+}
+
+cJSON *set_schema(const cJSON *schema, cJSON *schemas)
+{
+    cJSON *out = cJSON_Duplicate(schema, true);
+    to_set_schema(out, schemas);
+    cJSON_DeleteItemFromObjectCaseSensitive(out, "title");
+    cJSON_DeleteItemFromObjectCaseSensitive(out, "description");
+    cJSON_AddStringToObject(out, "description",
+                            "A set request: the page's document or a part of it. Keys left out keep their values; "
+                            "computed keys may be sent back unchanged.");
+    return out;
+}
+
 /* ---- parameters and replies ---- */
 
 cJSON *format_parameter()
@@ -482,11 +538,19 @@ void add_page(cJSON *paths, const CatalogGroup &group, const CatalogEntry &entry
         cJSON *body = cJSON_AddObjectToObject(post, "requestBody");
         cJSON_AddTrueToObject(body, "required");
         cJSON *media = cJSON_CreateObject();
-        cJSON_AddItemToObject(media, "schema", schema_ref(resource));
+        cJSON_AddItemToObject(shared.schemas, (resource + "_set").c_str(), set_schema(schema, shared.schemas));
+        cJSON_AddItemToObject(media, "schema", schema_ref(resource + "_set"));
         if (sample != nullptr) {
-            cJSON *example = cJSON_Duplicate(sample, true);
-            strip_read_only(example, schema, shared.schemas);
-            cJSON_AddItemToObject(media, "example", example);
+            // The document as read, and the part a client changes.
+            cJSON *examples = cJSON_AddObjectToObject(media, "examples");
+            cJSON *asRead = cJSON_AddObjectToObject(examples, "document");
+            cJSON_AddStringToObject(asRead, "summary", "the document as read, posted back");
+            cJSON_AddItemToObject(asRead, "value", cJSON_Duplicate(sample, true));
+            cJSON *settable = cJSON_Duplicate(sample, true);
+            strip_read_only(settable, schema, shared.schemas);
+            cJSON *part = cJSON_AddObjectToObject(examples, "settable");
+            cJSON_AddStringToObject(part, "summary", "its settable keys alone");
+            cJSON_AddItemToObject(part, "value", settable);
         }
         cJSON_AddItemToObject(cJSON_AddObjectToObject(body, "content"), kJson, media);
         cJSON *postResponses = cJSON_AddObjectToObject(post, "responses");

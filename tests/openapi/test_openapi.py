@@ -11,7 +11,7 @@ yet hold for every state is listed in tests/openapi/known_gaps.txt: the sweep
 fails for a page that fails and is not listed, and for a listed page that
 passes (the list only shrinks).
 """
-import copy
+import functools
 import http.client
 import json
 import os
@@ -30,6 +30,7 @@ del sys.argv[1:]
 DIALECT = 'https://json-schema.org/draft/2020-12/schema'
 
 
+@functools.lru_cache(maxsize=None)
 def run(*args):
     return subprocess.run([RENDER, *args], check=True, capture_output=True, text=True).stdout
 

@@ -15,6 +15,11 @@ if [ ${#missing[@]} -gt 0 ]; then
     apt-get update -qq
     apt-get install -y -qq --no-install-recommends "${missing[@]}"
 fi
+# The pinned tools need Node.js 20.19 or later (Redocly CLI's floor).
+if ! node -e 'const [a, b] = process.versions.node.split(".").map(Number); process.exit(a > 20 || (a === 20 && b >= 19) ? 0 : 1)'; then
+    echo "setup: the contract checks need Node.js 20.19 or later, this is $(node --version)"
+    exit 1
+fi
 # Installed again when the lock file is newer than the installed tree.
 stamp=tests/contract/node_modules/.package-lock.json
 if [ ! -f "$stamp" ] || [ tests/contract/package-lock.json -nt "$stamp" ]; then

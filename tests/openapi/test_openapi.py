@@ -241,9 +241,8 @@ class Document(unittest.TestCase):
             if arg != 'eventType':
                 continue
             props = SCHEMAS[resource(name)]['properties']
-            refs = {json.dumps(p) for p in props.values()}
-            if len(refs) == 1:
-                self.assertEqual(refs, {json.dumps({'$ref': '#/components/schemas/' + resource(name) + '_action'})})
+            shared = [k for k, p in props.items() if p == {'$ref': '#/components/schemas/' + resource(name) + '_action'}]
+            self.assertGreater(len(shared), len(props) // 2, name + ': most event types refer to one action shape')
         self.assertEqual(SCHEMAS['Index']['properties']['pages']['items'], {'$ref': '#/components/schemas/IndexEntry'})
 
     def test_schemas_refuse_what_no_state_renders(self):

@@ -155,27 +155,37 @@ void share_weeks(cJSON *schema, Shared &shared)
 }
 
 // On a per-event-type page every member of the document is one event type's
-// object, all of one shape: that shape becomes the component
-// "<resource>_action" and every event type refers to it.
+// object, nearly all of one shape (a type may carry a key of its own, as
+// motion does its snapshot type): the shape most types share becomes the
+// component "<resource>_action" and those types refer to it.
 void share_event_type_objects(cJSON *schema, const std::string &resource, Shared &shared)
 {
     cJSON *properties = member(schema, "properties");
-    cJSON *first = properties != nullptr ? properties->child : nullptr;
-    if (first == nullptr)
+    const cJSON *common = nullptr;
+    int most = 0;
+    for (const cJSON *p = properties != nullptr ? properties->child : nullptr; p != nullptr; p = p->next) {
+        int alike = 0;
+        for (const cJSON *q = properties->child; q != nullptr; q = q->next)
+            alike += cJSON_Compare(p, q, true) ? 1 : 0;
+        if (alike > most) {
+            most = alike;
+            common = p;
+        }
+    }
+    if (most < 2)
         return;
-    for (cJSON *p = first; p != nullptr; p = p->next)
-        if (!cJSON_Compare(p, first, true))
-            return; // not all alike: left as they are
     const std::string name = resource + "_action";
-    cJSON *shape = cJSON_Duplicate(first, true);
-    cJSON_AddStringToObject(shape, "description", "What the camera does when this event type fires.");
-    cJSON_AddItemToObject(shared.schemas, name.c_str(), shape);
-    for (cJSON *p = first; p != nullptr;) {
+    cJSON *shape = cJSON_Duplicate(common, true); // taken before the members it matches are replaced
+    for (cJSON *p = properties->child; p != nullptr;) {
         cJSON *next = p->next;
-        const std::string key = p->string;
-        cJSON_ReplaceItemInObjectCaseSensitive(properties, key.c_str(), schema_ref(name));
+        if (cJSON_Compare(p, shape, true)) {
+            const std::string key = p->string;
+            cJSON_ReplaceItemInObjectCaseSensitive(properties, key.c_str(), schema_ref(name));
+        }
         p = next;
     }
+    cJSON_AddStringToObject(shape, "description", "What the camera does when this event type fires.");
+    cJSON_AddItemToObject(shared.schemas, name.c_str(), shape);
 }
 
 // The schema `schema` stands for, following a reference to a component.
@@ -574,7 +584,8 @@ void add_page(cJSON *paths, const CatalogGroup &group, const CatalogEntry &entry
         cJSON_AddItemToArray(cJSON_AddArrayToObject(schemaGet, "parameters"), argument_parameter(ops));
     cJSON *schemaResponses = cJSON_AddObjectToObject(schemaGet, "responses");
     cJSON_AddItemToObject(schemaResponses, "200", response_ref("JsonSchema"));
-    cJSON_AddItemToObject(schemaResponses, "400", response_ref("FormatError"));
+    if (ops.argumentName != nullptr) // the schema route takes no format; only an argument can be refused
+        cJSON_AddItemToObject(schemaResponses, "400", response_ref("FormatError"));
     cJSON_AddItemToObject(schemaResponses, "405", response_ref("MethodNotAllowed"));
     cJSON_AddItemToObject(schemaResponses, "500", response_ref("RenderFailed"));
     cJSON_AddItemToObject(schemaPath, "get", schemaGet);

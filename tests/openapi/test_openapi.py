@@ -182,6 +182,17 @@ class Document(unittest.TestCase):
                 if status == '405':
                     self.assertIn('Allow', reply['headers'])
 
+    def test_the_simulator_routes_have_examples(self):
+        routes = [('/api', 'Index'), ('/api/openapi.json', 'OpenApiDocument'), ('/api/ptz_wiper/schema', 'JsonSchema')]
+        for path, component in routes:
+            with self.subTest(path=path):
+                media = resolve(DOC['paths'][path]['get']['responses']['200'])['content']['application/json']
+                self.assertEqual(media['schema'], {'$ref': '#/components/schemas/' + component})
+                self.assertTrue(validator(component).is_valid(media['example']))
+        entries = resolve(DOC['paths']['/api']['get']['responses']['200'])['content']['application/json']['example']
+        for e in entries['pages']:
+            self.assertEqual(e['path'], '/api/' + resource(e['name']))
+
     def test_envelopes_are_the_librarys(self):
         cases = [
             ('SetSucceed', 'zk_return_set_request_succeed_json', True),

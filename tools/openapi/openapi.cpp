@@ -334,6 +334,23 @@ cJSON *argument_parameter(const PageOps &ops)
 
 cJSON *header_ref(const char *name) { return reference(std::string("#/components/headers/") + name); }
 
+// The example of the schema route: the shortest schema of a catalog sample.
+cJSON *smallest_page_schema()
+{
+    std::vector<char> buffer(kBuffer);
+    std::string best;
+    for (const CatalogEntry *entry : catalog_entries()) {
+        if (entry->page == nullptr)
+            continue;
+        std::vector<unsigned char> state(entry->page->stateSize);
+        entry->page->initial(state.data());
+        if (entry->page->schema(state.data(), buffer.data(), kBuffer) == 0 &&
+            (best.empty() || strlen(buffer.data()) < best.size()))
+            best = buffer.data();
+    }
+    return best.empty() ? nullptr : cJSON_Parse(best.c_str());
+}
+
 void add_components(cJSON *components, cJSON *schemas)
 {
     // Envelopes and shared schemas.
@@ -469,7 +486,7 @@ void add_components(cJSON *components, cJSON *schemas)
     cJSON_AddItemToObject(cJSON_AddObjectToObject(notModified, "headers"), "ETag", header_ref("ETag"));
     cJSON_AddItemToObject(responses, "NotModified", notModified);
     cJSON_AddItemToObject(responses, "JsonSchema",
-                          json_reply("The page's JSON Schema.", schema_ref("JsonSchema"), nullptr));
+                          json_reply("The page's JSON Schema.", schema_ref("JsonSchema"), smallest_page_schema()));
 }
 
 cJSON *response_ref(const char *name) { return reference(std::string("#/components/responses/") + name); }
@@ -652,6 +669,17 @@ cJSON *index_example()
     return root;
 }
 
+// The example of this document's own route: its head, without the paths
+// and components (the reply is the document itself).
+cJSON *self_example(const cJSON *root)
+{
+    cJSON *e = cJSON_CreateObject();
+    for (const char *k : {"openapi", "jsonSchemaDialect", "info"})
+        cJSON_AddItemToObject(e, k, cJSON_Duplicate(member(root, k), true));
+    cJSON_AddObjectToObject(e, "paths");
+    return e;
+}
+
 } // namespace
 
 std::string resource_of(const char *name)
@@ -713,7 +741,7 @@ cJSON *document()
     cJSON *selfGet = operation("openapi_json", "This document", "The OpenAPI document of the interface.", "simulator");
     cJSON *selfResponses = cJSON_AddObjectToObject(selfGet, "responses");
     cJSON_AddItemToObject(selfResponses, "200",
-                          json_reply("The OpenAPI document.", schema_ref("OpenApiDocument"), nullptr));
+                          json_reply("The OpenAPI document.", schema_ref("OpenApiDocument"), self_example(root)));
     cJSON_AddItemToObject(selfResponses, "405", response_ref("MethodNotAllowed"));
     cJSON_AddItemToObject(self, "get", selfGet);
 

@@ -408,11 +408,14 @@ void add_components(cJSON *components, cJSON *schemas)
     cJSON_AddStringToObject(document, "type", "object");
     cJSON *required = cJSON_AddArrayToObject(document, "required");
     cJSON *documentKeys = cJSON_AddObjectToObject(document, "properties");
-    for (const char *k : {"openapi", "info", "paths"}) {
+    for (const char *k : {"openapi", "info", "paths"})
         cJSON_AddItemToArray(required, cJSON_CreateString(k));
-        cJSON_AddStringToObject(cJSON_AddObjectToObject(documentKeys, k), "type",
-                                strcmp(k, "openapi") == 0 ? "string" : "object");
-    }
+    const char *keys[][2] = {{"openapi", "string"}, {"jsonSchemaDialect", "string"}, {"info", "object"},
+                             {"servers", "array"},  {"security", "array"},         {"tags", "array"},
+                             {"paths", "object"},   {"components", "object"}};
+    for (const auto &k : keys)
+        cJSON_AddStringToObject(cJSON_AddObjectToObject(documentKeys, k[0]), "type", k[1]);
+    cJSON_AddTrueToObject(document, "additionalProperties");
     cJSON_AddItemToObject(schemas, "OpenApiDocument", document);
 
     // Headers.

@@ -113,6 +113,16 @@ try {
     }
   }
 
+  // The document's own route, once the simulator serves it: the same
+  // document as mw-render prints.
+  const served = await fetch(`${device.base}/api/openapi.json`);
+  if (served.status === 404) {
+    console.error('prism: the simulator does not serve /api/openapi.json yet');
+  } else {
+    check(JSON.stringify(await served.json()) === JSON.stringify(doc), '/api/openapi.json is the generated document');
+    clean(await call('GET', '/api/openapi.json'), 'GET /api/openapi.json');
+  }
+
   // A set request the schema lets through and the camera refuses: a text of
   // as many characters as the schema allows, each two bytes long. The 400
   // envelope names the member.

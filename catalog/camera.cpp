@@ -411,8 +411,11 @@ struct AllCapabilityPage
     : ReadOnlyRecordPage<camera_all_capability_record, kept<camera_all_capability_record, sample_all_capability>,
                          get_camera_all_capability_json, schema_camera_all_capability_json> {
     static int32_t *group(void *state) { return &static_cast<camera_all_capability_record *>(state)->group; }
+    // The groups the record's header names: 100 (PTZ control) to 109 (stream
+    // preset); any other selects nothing.
+    static constexpr int32_t kFirstGroup = 100, kLastGroup = 109;
     static constexpr PageOps ops{sizeof(camera_all_capability_record), initial, render, schema, nullptr, group,
-                                 "group"};
+                                 "group", kFirstGroup, kLastGroup};
 };
 
 const CatalogEntry entries[] = {

@@ -194,7 +194,9 @@ struct CapabilityPage {
         out[0] = data_of(s);
         out[1] = &s.count;
     }
-    static constexpr PageOps ops{sizeof(State), initial, render, schema, nullptr, count, "count"};
+    // Up to the entries the record (or the general document's array) holds.
+    static constexpr int32_t kHeld = sizeof(State::record.entries) / sizeof(cap_entry);
+    static constexpr PageOps ops{sizeof(State), initial, render, schema, nullptr, count, "count", 0, kHeld};
 };
 
 const CatalogEntry entries[] = {

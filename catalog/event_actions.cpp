@@ -153,7 +153,11 @@ template <typename R, void (*Fill)(R &), int32_t (*Get)(const R *, char *, int32
 struct ActionPage : RecordPage<R, sample_in_place<R, Fill>, Get, Schema, Set> {
     using Base = RecordPage<R, sample_in_place<R, Fill>, Get, Schema, Set>;
     static int32_t *event_type(void *state) { return &static_cast<R *>(state)->eventType; }
-    static constexpr PageOps ops{sizeof(R), Base::initial, Base::render, Base::schema, Base::set, event_type, "eventType"};
+    // -1 (any negative selector) asks for every event type, 0 .. the last
+    // slot of the record's per-type arrays for that one type.
+    static constexpr int32_t kEventTypes = sizeof(event_notify_record::httpNotifyEnable) / sizeof(int32_t);
+    static constexpr PageOps ops{sizeof(R), Base::initial, Base::render, Base::schema, Base::set, event_type, "eventType",
+                                 -1, kEventTypes - 1};
 };
 
 #define ACTION_ENTRY(resource, fill, description)                                                                 \

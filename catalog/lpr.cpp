@@ -254,7 +254,8 @@ struct CountPage {
         out[0] = &of(state).count;
         out[1] = of(state).entries;
     }
-    static constexpr PageOps ops{sizeof(State), initial, render, schema, nullptr, count, "count"};
+    static constexpr PageOps ops{sizeof(State), initial, render, schema, nullptr, count, "count", 0,
+                                 static_cast<int32_t>(N)};
 };
 
 // The radar self-test state: its one value is the page's argument.
@@ -271,7 +272,9 @@ struct RadarTestPage {
     static int32_t *value(void *state) { return static_cast<int32_t *>(state); }
     static int32_t sample(char *dst, int32_t n) { return get_lpr_radar_test_json(1, dst, n); }
     static void inputs(void *state, void **out) { out[0] = state; }
-    static constexpr PageOps ops{sizeof(int32_t), initial, render, schema, nullptr, value, "radarTest"};
+    // Any state the radar reports: the whole range of its int32_t.
+    static constexpr PageOps ops{sizeof(int32_t), initial, render, schema, nullptr, value, "radarTest", INT32_MIN,
+                                 INT32_MAX};
 };
 
 // The attribute rules: four rules the caller holds in an array, and their

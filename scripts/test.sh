@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # The whole test suite: a plain build (with the device simulator's client
-# test), a short load test and the browser test of the simulator, a sanitizer
+# test), a short load test and the browser test of the simulator, the OpenAPI
+# document's checks by third-party tools (scripts/contract.sh), a sanitizer
 # build (ASan + UBSan), the concurrency test under ThreadSanitizer, the fuzz
 # targets for a bounded time, a coverage build held to its floor, and a
 # 64-bit Arm build run under qemu-user.
@@ -19,6 +20,9 @@ echo "== device simulator: short load test and the browser page in Chromium"
 python3 tests/device/load.py build/mw-device --seconds 2 --connections 16
 bash scripts/setup-browser.sh
 node tests/browser/browser_test.js build/mw-device build/browser-test.png
+
+echo "== OpenAPI document: linters, generated types, typed client, validating proxy"
+bash scripts/contract.sh build
 
 echo "== build (sanitizers)"
 bash scripts/build.sh build-sanitize -DMW_TESTS=ON -DMW_SANITIZE=ON

@@ -6,8 +6,10 @@
  *   mw-render NAME...       render the named documents to standard output
  *   mw-render --all         render every document, each under a header line
  *   mw-render --schema NAME the JSON Schema of a page's sample document
+ *   mw-render --openapi     the OpenAPI document of the device simulator's interface
  */
 #include "catalog.h"
+#include "openapi.h"
 
 #include <cstdio>
 #include <cstring>
@@ -20,12 +22,14 @@ constexpr int32_t kBufferSize = 4 * 1024 * 1024;
 void usage(FILE *out)
 {
     fprintf(out,
-            "usage: mw-render --list | --all | --schema NAME | NAME...\n"
+            "usage: mw-render --list | --all | --schema NAME | --openapi | NAME...\n"
             "Renders the sample documents of the camera's JSON library.\n"
             "  --list         list the documents: settable (a client may post it back) or\n"
             "                 read-only, and a one-line description each\n"
             "  --all          render every document, each after a line '# NAME'\n"
             "  --schema NAME  print the JSON Schema of that page's sample document\n"
+            "  --openapi      print the OpenAPI 3.1 document of the device simulator's\n"
+            "                 interface (every page, its schemas and replies)\n"
             "  NAME           render that document (a serializer's name, see --list)\n"
             "  --help         this text\n");
 }
@@ -71,6 +75,14 @@ int main(int argc, char **argv)
         return 0;
     }
 
+    if (strcmp(argv[1], "--openapi") == 0) {
+        if (argc != 2) {
+            usage(stderr);
+            return 2;
+        }
+        puts(openapi::openapi_json().c_str());
+        return 0;
+    }
     std::vector<char> buffer(kBufferSize);
     if (strcmp(argv[1], "--schema") == 0) {
         if (argc != 3) {

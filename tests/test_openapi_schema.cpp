@@ -50,7 +50,7 @@ cJSON *widened(const char *sampleSchema)
     current_schema = sampleSchema;
     schema_by_value = nullptr;
     static const PageOps ops{sizeof(Selector), initial, render, schema, nullptr};
-    const CatalogEntry entry{"get_made_up_json", "a page made up for the test", nullptr, true, &ops, "made up"};
+    const CatalogEntry entry{"get_made_up_json", "a page made up for the test", nullptr, true, &ops};
     return openapi::page_document_schema(entry);
 }
 
@@ -69,7 +69,7 @@ TEST(OpenApiSchema, APagesOwnSchemaOfEveryStateIsTakenAsItStands)
     static const PageOps ops{sizeof(Selector), initial, render, schema, nullptr, nullptr, nullptr, 0, 0,
                              [](char *dst, int32_t n) { return copy_out(R"({"type":"object","title":"own"})", dst, n); }};
     current_schema = R"({"type":"string"})";
-    const CatalogEntry entry{"get_made_up_json", "made up", nullptr, true, &ops, "made up"};
+    const CatalogEntry entry{"get_made_up_json", "made up", nullptr, true, &ops};
     cJSON *s = openapi::page_document_schema(entry);
     EXPECT_EQ(printed(s), R"({"type":"object","title":"own"})");
     cJSON_Delete(s);
@@ -161,7 +161,7 @@ TEST(OpenApiSchema, APerEventTypePageAllowsEveryTypeAndRequiresNone)
 {
     schema_by_value = per_type;
     static const PageOps ops{sizeof(Selector), initial, render, schema, nullptr, argument, "eventType", -1, 3};
-    const CatalogEntry entry{"get_made_up_json", "made up", nullptr, true, &ops, "made up"};
+    const CatalogEntry entry{"get_made_up_json", "made up", nullptr, true, &ops};
     cJSON *s = openapi::page_document_schema(entry);
     schema_by_value = nullptr;
     ASSERT_NE(s, nullptr);
@@ -191,7 +191,7 @@ TEST(OpenApiSchema, RangesCoverEveryArgumentsSchema)
 {
     schema_by_value = counted;
     static const PageOps ops{sizeof(Selector), initial, render, schema, nullptr, argument, "count", 0, 3};
-    const CatalogEntry entry{"get_made_up_json", "made up", nullptr, true, &ops, "made up"};
+    const CatalogEntry entry{"get_made_up_json", "made up", nullptr, true, &ops};
     cJSON *s = openapi::page_document_schema(entry);
     schema_by_value = nullptr;
     ASSERT_NE(s, nullptr);

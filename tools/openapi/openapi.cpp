@@ -662,8 +662,8 @@ cJSON *index_example()
             cJSON_AddStringToObject(item, "group", group->name);
             cJSON_AddBoolToObject(item, "settable", e.page->set != nullptr);
             cJSON_AddStringToObject(item, "description", e.description);
-            if (e.readOnly != nullptr)
-                cJSON_AddStringToObject(item, "readOnly", e.readOnly);
+            if (const char *why = catalog_read_only(e))
+                cJSON_AddStringToObject(item, "readOnly", why);
             if (e.page->argumentName != nullptr)
                 cJSON_AddStringToObject(item, "argument", e.page->argumentName);
             cJSON_AddItemToArray(pages, item);

@@ -124,7 +124,7 @@ class Pages(unittest.TestCase):
                 self.assertEqual(again, document, page['name'])
             else:
                 self.assertEqual(status, 405, page['name'])
-                self.assertEqual(headers.get('Allow'), 'GET', page['name'])
+                self.assertEqual(headers.get('Allow'), 'GET, HEAD', page['name'])
 
     def test_refusals_name_the_key_and_change_nothing(self):
         cases = [

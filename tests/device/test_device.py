@@ -636,18 +636,20 @@ class Persistence(unittest.TestCase):
         server = Server('--state', self.dir)
         try:
             def client(k):
-                for i in range(20):
+                for i in range(25):
                     server.request('POST', '/api/system_water_mark?format=json',
                                    json.dumps({'waterMarkString': 'client %d set %d' % (k, i)}))
 
-            threads = [threading.Thread(target=client, args=(k,)) for k in range(4)]
-            for t in threads:
-                t.start()
-            for t in threads:
-                t.join(timeout=30)
-            _, shown, _ = server.request('GET', '/api/system_water_mark?format=json')
-            with open(os.path.join(self.dir, 'get_system_water_mark_json.json')) as f:
-                self.assertEqual(f.read(), shown)
+            for _ in range(4):
+                threads = [threading.Thread(target=client, args=(k,)) for k in range(8)]
+                for t in threads:
+                    t.start()
+                for t in threads:
+                    t.join(timeout=30)
+                _, shown, _ = server.request('GET', '/api/system_water_mark?format=json')
+                with open(os.path.join(self.dir, 'get_system_water_mark_json.json')) as f:
+                    self.assertEqual(f.read(), shown)
+                self.assertEqual(os.listdir(self.dir), ['get_system_water_mark_json.json'])
         finally:
             server.stop()
 

@@ -188,7 +188,8 @@ async function run() {
     // From the dev server's origin, through CORS.
     const mark = 'input[data-path="waterMarkString"]';
     const api = url.replace(/\/$/, '');
-    const remote = await openTab(browser, origin + '/?api=' + encodeURIComponent(api) + '#get_system_water_mark_json', mark);
+    const remote = await openTab(browser, origin + '/?api=' + encodeURIComponent(api) + '#get_system_water_mark_json',
+                                 mark);
     check((await remote.$eval(mark, (i) => i.value)) === 'Browser edit 7', 'a page on another origin reads the camera');
     await edit(remote, mark, 'From the dev server');
     await saveAndWait(remote, 200);

@@ -253,9 +253,10 @@ Answer answer(struct MHD_Connection *connection, const std::string &verb, const 
     const bool reading = verb == "GET" || verb == "HEAD";
     const bool settable = target.kind == Target::a_page && target.page->entry->page->set != nullptr;
     if (!reading && !(verb == "POST" && settable)) {
-        Answer a = error(MHD_HTTP_METHOD_NOT_ALLOWED, verb == "POST" && target.kind == Target::a_page
-                                                         ? "a read-only page"
-                                                         : (settable ? "only GET, HEAD and POST" : "only GET and HEAD"));
+        const char *why = verb == "POST" && target.kind == Target::a_page ? "a read-only page"
+                          : settable                                    ? "only GET, HEAD and POST"
+                                                                        : "only GET and HEAD";
+        Answer a = error(MHD_HTTP_METHOD_NOT_ALLOWED, why);
         a.allow = allowed;
         return a;
     }
@@ -267,7 +268,9 @@ Answer answer(struct MHD_Connection *connection, const std::string &verb, const 
     case Target::a_schema:
         return get_page(connection, *target.page, true, request);
     case Target::a_page:
-        return reading ? get_page(connection, *target.page, false, request) : post_page(connection, *target.page, request);
+        if (reading)
+            return get_page(connection, *target.page, false, request);
+        return post_page(connection, *target.page, request);
     case Target::unknown:
         break;
     }

@@ -631,28 +631,31 @@ class Persistence(unittest.TestCase):
             server.stop()
 
     def test_concurrent_sets_save_in_the_order_they_were_accepted(self):
-        # Four clients set one page; whatever the order, the saved document
-        # is the one the page shows at the end.
+        # Rounds of eight clients setting one page at the same moment: after
+        # each, the saved document is the one the page shows, and no
+        # temporary file is left.
         server = Server('--state', self.dir)
         try:
-            def client(k):
-                for i in range(25):
-                    server.request('POST', '/api/system_water_mark?format=json',
-                                   json.dumps({'waterMarkString': 'client %d set %d' % (k, i)}))
+            for n in range(10):
+                start = threading.Barrier(8, timeout=10)
 
-            for _ in range(4):
+                def client(k):
+                    start.wait()
+                    server.request('POST', '/api/system_water_mark?format=json',
+                                   json.dumps({'waterMarkString': 'round %d client %d' % (n, k)}))
+
                 threads = [threading.Thread(target=client, args=(k,)) for k in range(8)]
                 for t in threads:
                     t.start()
                 for t in threads:
                     t.join(timeout=30)
                 _, shown, _ = server.request('GET', '/api/system_water_mark?format=json')
+                self.assertIn('round %d' % n, shown)
                 with open(os.path.join(self.dir, 'get_system_water_mark_json.json')) as f:
-                    self.assertEqual(f.read(), shown)
+                    self.assertEqual(f.read(), shown, n)
                 self.assertEqual(os.listdir(self.dir), ['get_system_water_mark_json.json'])
         finally:
             server.stop()
-
 
 if __name__ == '__main__':
     unittest.main(argv=[sys.argv[0], '-v'])

@@ -630,6 +630,53 @@ class Persistence(unittest.TestCase):
         finally:
             server.stop()
 
+    def test_a_save_waiting_on_the_disk_holds_up_no_reader(self):
+        # A pipe where the set's temporary file goes: the save blocks until
+        # the test reads it, as a slow disk would hold it.
+        pipe = os.path.join(self.dir, 'get_system_water_mark_json.json.tmp')
+        os.mkfifo(pipe)
+        server = Server('--state', self.dir)
+
+        def drain():
+            """Reads what the save writes into the pipe, which lets it go on."""
+            reader = os.open(pipe, os.O_RDONLY | os.O_NONBLOCK)
+            written, deadline = b'', time.monotonic() + 10
+            try:
+                while time.monotonic() < deadline:
+                    try:
+                        chunk = os.read(reader, 4096)
+                    except BlockingIOError:
+                        chunk = None
+                    if chunk == b'' and written:
+                        break
+                    written += chunk or b''
+                    if not chunk:
+                        time.sleep(0.02)
+            finally:
+                os.close(reader)
+            return written
+
+        try:
+            _, before, _ = server.request('GET', '/api/system_water_mark?format=json')
+            answers = []
+            setter = threading.Thread(target=lambda: answers.append(server.request(
+                'POST', '/api/system_water_mark?format=json', '{"waterMarkString": "Stuck"}', timeout=20)))
+            setter.start()
+            time.sleep(0.3)
+            try:
+                status, shown, _ = server.request('GET', '/api/system_water_mark?format=json', timeout=3)
+                self.assertEqual((status, shown), (200, before))  # answered meanwhile, without the set
+                self.assertEqual(answers, [])                     # the set waits for its save
+            finally:
+                written = drain()
+                setter.join(timeout=10)
+            self.assertIn(b'Stuck', written)
+            # A pipe cannot be flushed to disk: the save fails and nothing changes.
+            self.assertEqual(answers[0][0], 500)
+            self.assertEqual(server.request('GET', '/api/system_water_mark?format=json')[1], before)
+        finally:
+            server.stop()
+
     def test_concurrent_sets_save_in_the_order_they_were_accepted(self):
         # Rounds of eight clients setting one page at the same moment: after
         # each, the saved document is the one the page shows, and no

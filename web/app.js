@@ -1,19 +1,112 @@
-// The camera's pages in a browser: list them, open one, edit its document in
-// place and post it back. Values the page's schema rejects are marked before
-// anything is sent; a refused request marks the key the camera named.
+// @ts-check
+// The camera's pages in a browser: list them, open one (with its argument:
+// event type, group or count), edit its document in place and post it back.
+// Values the page's schema rejects are marked before anything is sent; a
+// refused request marks the key the camera named. Every answer's HTTP status
+// is shown. A save carries the tag the page was read with (If-Match): when
+// the page changed since it was opened the camera answers 412 and the page
+// offers a reload.
+//
+// Served by the simulator itself, the page calls it on its own origin. Served
+// from elsewhere (a front-end dev server), it calls the simulator named in
+// the query: /index.html?api=http://127.0.0.1:8080, which must have been
+// started with --cors naming this page's origin.
+
+/**
+ * The simulator's answers as this page reads them. These are the one place
+ * to point at the types generated from the OpenAPI document.
+ *
+ * @typedef {object} PageEntry   An entry of the index, GET /api.
+ * @property {string} name
+ * @property {string} path        "/api/ptz_wiper"
+ * @property {string} group
+ * @property {boolean} settable
+ * @property {string} description
+ * @property {string} [readOnly]  why a page is read-only
+ * @property {string} [argument]  the query parameter that selects what the page shows
+ *
+ * @typedef {object} PageIndex   GET /api.
+ * @property {PageEntry[]} pages
+ *
+ * @typedef {{[key: string]: any}} PageDocument   GET /api/<page>?format=json: a page's document.
+ *
+ * @typedef {object} Schema      GET /api/<page>/schema, and each member's part of it.
+ * @property {string} [title]
+ * @property {string} [type]
+ * @property {{[key: string]: Schema}} [properties]
+ * @property {Schema[]} [prefixItems]
+ * @property {boolean} [readOnly]
+ * @property {unknown} [const]
+ * @property {number} [minimum]
+ * @property {number} [maximum]
+ * @property {number} [maxLength]
+ *
+ * @typedef {{[key: string]: string}} Reply   A set request's reply envelope, or an error body.
+ */
+
+/**
+ * What this page keeps of the page it shows.
+ * @typedef {object} Current
+ * @property {PageEntry} page
+ * @property {PageDocument} doc
+ * @property {Schema} schema
+ * @property {string} argument   the argument's value as asked, '' for the catalog's
+ * @property {string | null} etag
+ *
+ * @typedef {{key?: string | number, index?: unknown}} Step
+ * @typedef {{described: Schema | null, holder: any, key: string | number}} Place
+ */
 'use strict';
 
-const $ = (id) => document.getElementById(id);
-let pages = [];
-let current = null; // {page, doc, schema}
+const api = new URLSearchParams(location.search).get('api') || '';
 
-async function getJson(url) {
-  const response = await fetch(url);
-  return response.json();
+/** @param {string} id */
+const $ = (id) => /** @type {HTMLElement} */ (document.getElementById(id));
+/** @param {string} id */
+const field = (id) => /** @type {HTMLInputElement} */ (document.getElementById(id));
+
+/** @type {PageEntry[]} */
+let pages = [];
+/** @type {Current | null} */
+let current = null;
+/** @type {WeakMap<HTMLInputElement, Place>} */
+const places = new WeakMap();
+
+// Every answer's status, newest first.
+/**
+ * @param {string} method
+ * @param {string} url
+ * @param {Response} response
+ */
+function logAnswer(method, url, response) {
+  const line = document.createElement('li');
+  line.textContent = response.status + ' ' + response.statusText + ' \u2190 ' + method + ' ' + url;
+  line.className = response.ok ? 'ok' : 'failed';
+  const log = $('log');
+  log.prepend(line);
+  while (log.children.length > 12) log.lastElementChild?.remove();
+}
+
+/**
+ * @param {string} url   a path on the simulator
+ * @param {RequestInit} [init]
+ */
+async function call(url, init) {
+  const response = await fetch(api + url, init);
+  logAnswer(init && init.method ? init.method : 'GET', url, response);
+  return response;
+}
+
+/** The query of a page's document: format=json and the argument when one is given. */
+function query() {
+  if (!current) return '';
+  const argument = current.page.argument;
+  return '?format=json' + (argument && current.argument !== ''
+    ? '&' + encodeURIComponent(argument) + '=' + encodeURIComponent(current.argument) : '');
 }
 
 function showIndex() {
-  const filter = $('filter').value.trim().toLowerCase();
+  const filter = field('filter').value.trim().toLowerCase();
   const nav = $('pages');
   nav.textContent = '';
   let group = null;
@@ -37,13 +130,22 @@ function showIndex() {
 }
 
 // The schema of a member: properties of an object, prefixItems of a list.
+/**
+ * @param {Schema | null} schema
+ * @param {string | number} key
+ * @returns {Schema | null}
+ */
 function childSchema(schema, key) {
   if (!schema) return null;
-  if (typeof key === 'number') return schema.prefixItems ? schema.prefixItems[key] : null;
-  return schema.properties ? schema.properties[key] : null;
+  if (typeof key === 'number') return schema.prefixItems ? schema.prefixItems[key] || null : null;
+  return schema.properties ? schema.properties[key] || null : null;
 }
 
 // What the schema says of a value, or '' when it fits.
+/**
+ * @param {string} value
+ * @param {Schema | null} schema
+ */
 function problem(value, schema) {
   if (!schema) return '';
   if (schema.type === 'integer' || schema.type === 'number') {
@@ -59,6 +161,7 @@ function problem(value, schema) {
 }
 
 // A key path as the camera names it: "list[2].url".
+/** @param {Step[]} parts */
 function pathOf(parts) {
   let text = '';
   for (const part of parts) {
@@ -68,13 +171,23 @@ function pathOf(parts) {
   return text;
 }
 
-function build(container, value, schema, parts) {
-  for (const [key, member] of Array.isArray(value) ? value.map((v, i) => [i, v]) : Object.entries(value)) {
+/**
+ * @param {HTMLElement} container
+ * @param {any} value   an object or a list of the document
+ * @param {Schema | null} schema
+ * @param {Step[]} parts
+ * @param {boolean} settable
+ */
+function build(container, value, schema, parts, settable) {
+  /** @type {[string | number, any][]} */
+  const members = Array.isArray(value) ? value.map((v, i) => [i, v]) : Object.entries(value);
+  for (const [key, member] of members) {
     const described = childSchema(schema, key);
+    /** @type {Step} */
     let step = { key };
     if (typeof key === 'number') {
-      const indexKey = described && described.properties &&
-        Object.keys(described.properties).find((k) => described.properties[k].const !== undefined);
+      const properties = described && described.properties;
+      const indexKey = properties && Object.keys(properties).find((k) => properties[k].const !== undefined);
       step = { index: indexKey ? member[indexKey] : key };
     }
     const here = parts.concat([step]);
@@ -83,7 +196,7 @@ function build(container, value, schema, parts) {
       const legend = document.createElement('legend');
       legend.textContent = pathOf(here);
       set.appendChild(legend);
-      build(set, member, described, here);
+      build(set, member, described, here, settable);
       container.appendChild(set);
       continue;
     }
@@ -93,75 +206,126 @@ function build(container, value, schema, parts) {
     const input = document.createElement('input');
     input.value = String(member);
     input.dataset.path = pathOf(here);
-    input.readOnly = !current.page.settable || (described && (described.readOnly || described.const !== undefined));
+    input.readOnly = !settable || Boolean(described && (described.readOnly || described.const !== undefined));
     input.addEventListener('input', () => {
       const why = problem(input.value, described);
       input.classList.toggle('invalid', why !== '');
       input.title = why;
     });
-    input._location = { described, holder: value, key };
+    places.set(input, { described, holder: value, key });
     label.append(name, input);
     container.appendChild(label);
   }
 }
 
-async function open(name) {
+/**
+ * Opens a page with its argument ('' for the catalog's).
+ * @param {string} name
+ * @param {string} [argument]
+ */
+async function open(name, argument = '') {
   const page = pages.find((p) => p.name === name);
   if (!page) return;
-  const [doc, schema] = await Promise.all([getJson(page.path + '?format=json'), getJson(page.path + '/schema')]);
-  current = { page, doc, schema };
+  current = { page, doc: {}, schema: {}, argument: page.argument ? argument : '', etag: null };
+  $('conflict').hidden = true;
   $('title').textContent = page.name;
   $('description').textContent = page.description + (page.settable ? '' : ' (read-only: ' + page.readOnly + ')');
-  $('actions').hidden = !page.settable;
+  $('argument').hidden = !page.argument;
+  $('argument-name').textContent = page.argument || '';
+  field('argument-value').value = current.argument;
   const form = $('document');
   form.textContent = '';
-  build(form, doc, schema, []);
+  const [answer, schemaAnswer] = await Promise.all([call(page.path + query()), call(page.path + '/schema')]);
+  const text = await answer.text();
+  $('actions').hidden = !page.settable || !answer.ok;
+  if (!answer.ok) {
+    $('reply').textContent = answer.status + '\n' + text;
+    showIndex();
+    return;
+  }
+  current.doc = /** @type {PageDocument} */ (JSON.parse(text));
+  current.schema = schemaAnswer.ok ? /** @type {Schema} */ (await schemaAnswer.json()) : {};
+  current.etag = answer.headers.get('ETag');
+  build(form, current.doc, current.schema, [], page.settable);
   showIndex();
 }
 
 // The document with every edited value written back in place.
 function edited() {
-  for (const input of document.querySelectorAll('#document input')) {
-    const { described, holder, key } = input._location;
+  for (const input of /** @type {NodeListOf<HTMLInputElement>} */ (document.querySelectorAll('#document input'))) {
+    const place = places.get(input);
+    if (!place) continue;
+    const { described, holder, key } = place;
     const type = described ? described.type : typeof holder[key];
     if (type === 'integer' || type === 'number') holder[key] = Number(input.value);
     else holder[key] = input.value;
   }
-  return current.doc;
+  return current ? current.doc : {};
 }
 
 async function save() {
-  const inputs = [...document.querySelectorAll('#document input')];
-  for (const input of inputs) input.closest('label').classList.remove('refused');
+  if (!current) return;
+  const inputs = [.../** @type {NodeListOf<HTMLInputElement>} */ (document.querySelectorAll('#document input'))];
+  for (const input of inputs) input.closest('label')?.classList.remove('refused');
   const bad = inputs.filter((i) => i.classList.contains('invalid'));
   if (bad.length) {
     $('reply').textContent = 'Not sent: ' + bad.map((i) => i.dataset.path + ' (' + i.title + ')').join(', ');
     return;
   }
-  const response = await fetch(current.page.path + '?format=json', { method: 'POST', body: JSON.stringify(edited()) });
+  /** @type {Record<string, string>} */
+  const headers = { 'Content-Type': 'application/json' };
+  if (current.etag) headers['If-Match'] = current.etag;
+  const response = await call(current.page.path + query(), { method: 'POST', headers, body: JSON.stringify(edited()) });
   const text = await response.text();
   $('reply').textContent = response.status + '\n' + text;
-  if (response.status === 400) {
-    const key = Object.keys(JSON.parse(text))[0];
+  if (response.ok) {
+    current.etag = response.headers.get('ETag');
+  } else if (response.status === 412) {
+    $('conflict').hidden = false;
+  } else if (response.status === 400) {
+    const key = Object.keys(/** @type {Reply} */ (JSON.parse(text)))[0];
     const input = inputs.find((i) => i.dataset.path === key);
     if (input) {
-      input.closest('label').classList.add('refused');
+      input.closest('label')?.classList.add('refused');
       input.scrollIntoView({ block: 'center' });
     }
   }
 }
 
+// "#get_event_notify_json?eventType=3": a page and its argument.
+function openFromHash() {
+  const [name, search] = location.hash.slice(1).split('?');
+  if (!name) return;
+  const page = pages.find((p) => p.name === name);
+  const argument = page && page.argument ? new URLSearchParams(search).get(page.argument) : null;
+  open(name, argument || '');
+}
+
 async function start() {
-  pages = (await getJson('/api')).pages;
+  const index = await call('/api');
+  pages = /** @type {PageIndex} */ (await index.json()).pages;
   showIndex();
-  $('filter').addEventListener('input', showIndex);
+  field('filter').addEventListener('input', showIndex);
   $('pages').addEventListener('click', (event) => {
-    const link = event.target.closest('a');
-    if (link) open(link.dataset.name);
+    const link = /** @type {HTMLElement} */ (event.target).closest('a');
+    if (link && link.dataset.name) {
+      event.preventDefault();
+      history.replaceState(null, '', '#' + link.dataset.name);
+      open(link.dataset.name);
+    }
+  });
+  $('argument').addEventListener('submit', (event) => {
+    event.preventDefault();
+    if (!current) return;
+    const value = field('argument-value').value.trim();
+    history.replaceState(null, '', '#' + current.page.name + (value ? '?' + current.page.argument + '=' + value : ''));
+    open(current.page.name, value);
   });
   $('save').addEventListener('click', save);
-  $('reload').addEventListener('click', () => open(current.page.name));
-  if (location.hash) open(location.hash.slice(1));
+  for (const id of ['reload', 'conflict-reload']) {
+    $(id).addEventListener('click', () => { if (current) open(current.page.name, current.argument); });
+  }
+  openFromHash();
 }
 
 start();

@@ -32,18 +32,18 @@ def catalog():
 
 
 class Server:
-    def __init__(self, *args):
-        self.process = subprocess.Popen([DEVICE, '--port', '0', '--timeout', '2'] + list(args),
-                                        stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+    def __init__(self, *args, program=DEVICE, env=None):
+        self.process = subprocess.Popen([program, '--port', '0', '--timeout', '2'] + list(args),
+                                        stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, env=env)
         line = self.process.stdout.readline()
         if not line.startswith('mw-device: http://127.0.0.1:'):
             raise RuntimeError('no URL: ' + line + self.process.stderr.read())
         self.port = int(line.rsplit(':', 1)[1].strip('/\n'))
 
-    def request(self, method, path, body=None, timeout=10):
+    def request(self, method, path, body=None, timeout=10, headers=None):
         connection = http.client.HTTPConnection('127.0.0.1', self.port, timeout=timeout)
         try:
-            connection.request(method, path, body=body)
+            connection.request(method, path, body=body, headers=headers or {})
             response = connection.getresponse()
             return response.status, response.read().decode('utf-8', 'replace'), dict(response.getheaders())
         finally:
@@ -61,6 +61,14 @@ class Server:
 
 def envelope(key, value):
     return json.dumps({key: value}, separators=(',', ':\t')).replace('{', '{\n\t').replace('}', '\n}')
+
+
+def fnv1a_tag(text):
+    """A strong entity tag as the simulator makes it: 64-bit FNV-1a of the bytes, 16 hex digits, quoted."""
+    h = 0xcbf29ce484222325
+    for b in text.encode('utf-8'):
+        h = ((h ^ b) * 0x100000001b3) & 0xffffffffffffffff
+    return '"%016x"' % h
 
 
 FORMAT_ERROR = lambda key: '{\n\t"%s":\t"format error"\n}' % key
@@ -97,6 +105,7 @@ class Pages(unittest.TestCase):
             status, body, headers = self.server.request('GET', page['path'] + '?format=json')
             self.assertEqual((status, body), (200, expected), page['name'])
             self.assertEqual(headers.get('Content-Type'), 'application/json', page['name'])
+            self.assertEqual(headers.get('ETag'), fnv1a_tag(body), page['name'])
 
     def test_a_query_without_format_json_is_refused(self):
         for query in ['', '?', '?format=xml', '?FORMAT=JSON']:
@@ -124,7 +133,7 @@ class Pages(unittest.TestCase):
                 self.assertEqual(again, document, page['name'])
             else:
                 self.assertEqual(status, 405, page['name'])
-                self.assertEqual(headers.get('Allow'), 'GET', page['name'])
+                self.assertEqual(headers.get('Allow'), 'GET, HEAD', page['name'])
 
     def test_refusals_name_the_key_and_change_nothing(self):
         cases = [
@@ -274,6 +283,245 @@ class Hostile(unittest.TestCase):
         self.assertLess(closed[0][1], 4)
 
 
+WIPER = '/api/ptz_wiper?format=json'
+STALE = '"0123456789abcdef"'
+
+
+class Conditional(unittest.TestCase):
+    """Conditional requests as RFC 9110 defines them: If-None-Match with weak
+    comparison (304 for GET and HEAD), If-Match with strong comparison (412)."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.server = Server()
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.server.stop()
+
+    def current(self, path=WIPER):
+        status, body, headers = self.server.request('GET', path)
+        self.assertEqual(status, 200)
+        return body, headers['ETag']
+
+    def test_tags_follow_the_document_and_its_argument(self):
+        every, tag_every = self.current('/api/event_notify?format=json&eventType=-1')
+        one, tag_one = self.current('/api/event_notify?format=json&eventType=0')
+        self.assertNotEqual(tag_every, tag_one)
+        self.assertEqual((tag_every, tag_one), (fnv1a_tag(every), fnv1a_tag(one)))
+        # The schema, the index and the browser page carry their own tags too.
+        for path in ['/api/ptz_wiper/schema', '/api', '/', '/app.js']:
+            status, body, headers = self.server.request('GET', path)
+            self.assertEqual((status, headers.get('ETag')), (200, fnv1a_tag(body)), path)
+
+    def test_if_none_match_on_a_get(self):
+        body, tag = self.current()
+        cases = [
+            (tag, 304),
+            ('*', 304),
+            ('W/' + tag, 304),                 # weak comparison ignores W/
+            (STALE + ', ' + tag, 304),         # any member of the list
+            (STALE + ',' + tag + ' ', 304),
+            (STALE, 200),
+            ('', 200),
+            (tag[1:-1], 200),                  # unquoted is not a tag
+        ]
+        for field, expected in cases:
+            for method in ('GET', 'HEAD'):
+                status, text, headers = self.server.request(method, WIPER, headers={'If-None-Match': field})
+                self.assertEqual(status, expected, (method, field))
+                self.assertEqual(headers.get('ETag'), tag, (method, field))
+                self.assertEqual(text, body if expected == 200 and method == 'GET' else '', (method, field))
+        # Several header lines form one list.
+        connection = http.client.HTTPConnection('127.0.0.1', self.server.port, timeout=10)
+        connection.putrequest('GET', WIPER)
+        connection.putheader('If-None-Match', STALE)
+        connection.putheader('If-None-Match', tag)
+        connection.endheaders()
+        self.assertEqual(connection.getresponse().status, 304)
+        connection.close()
+
+    def test_if_match_on_a_get_answers_412_when_stale(self):
+        _, tag = self.current()
+        for field, expected in [(tag, 200), ('*', 200), (STALE, 412), ('W/' + tag, 412)]:
+            status, _, _ = self.server.request('GET', WIPER, headers={'If-Match': field})
+            self.assertEqual(status, expected, field)
+
+    def test_if_match_on_a_set(self):
+        # Each case starts from the sample; `field` may name the current tag.
+        cases = [
+            (None, 200),
+            ('{tag}', 200),
+            ('*', 200),                        # any existing page
+            (STALE + ', {tag}', 200),
+            (STALE, 412),
+            ('W/{tag}', 412),                  # strong comparison: a weak tag never matches
+            ('{tag}'[:-2] + '"', 412),
+        ]
+        sample, tag = self.current()
+        for field, expected in cases:
+            headers = {} if field is None else {'If-Match': field.replace('{tag}', tag)}
+            status, body, answer = self.server.request('POST', WIPER, '{"autoWiper": 0}', headers=headers)
+            self.assertEqual(status, expected, field)
+            after, after_tag = self.current()
+            if expected == 200:
+                self.assertEqual(body, SUCCEED, field)
+                self.assertNotEqual(after, sample, field)
+                self.assertEqual(answer.get('ETag'), after_tag, field)  # the new tag, as the next GET gives it
+            else:
+                self.assertEqual(set(json.loads(body)), {'error'}, field)
+                self.assertNotIn('ETag', answer, field)
+                self.assertEqual((after, after_tag), (sample, tag), field)  # nothing changed
+            self.assertEqual(self.server.request('POST', WIPER, sample)[0], 200)
+
+    def test_if_none_match_star_on_a_set_is_refused(self):
+        status, _, _ = self.server.request('POST', WIPER, '{"autoWiper": 0}', headers={'If-None-Match': '*'})
+        self.assertEqual(status, 412)
+
+    def test_a_set_with_an_argument_answers_the_tag_of_that_argument(self):
+        path = '/api/event_notify?format=json&eventType=3'
+        document, tag = self.current(path)
+        changed = json.loads(document)
+        status, _, headers = self.server.request('POST', path, json.dumps(changed), headers={'If-Match': tag})
+        self.assertEqual(status, 200)
+        self.assertEqual(headers.get('ETag'), self.current(path)[1])
+
+    def test_head_answers_as_get_without_a_body(self):
+        paths = ['/', '/app.js', '/style.css', '/api', WIPER, '/api/ptz_wiper/schema',
+                 '/api/event_notify?format=json&eventType=2', '/api/ptz_wiper', '/api/nothing', '/nothing']
+        for path in paths:
+            get_status, get_body, get_headers = self.server.request('GET', path)
+            status, body, headers = self.server.request('HEAD', path)
+            self.assertEqual((status, body), (get_status, ''), path)
+            for field in ('Content-Type', 'Content-Length', 'ETag'):
+                self.assertEqual(headers.get(field), get_headers.get(field), (path, field))
+
+    def test_allow_names_head_and_options_answers(self):
+        cases = [
+            ('POST', '/api/system_information?format=json', 405, 'GET, HEAD'),
+            ('PUT', WIPER, 405, 'GET, HEAD, POST'),
+            ('DELETE', '/api', 405, 'GET, HEAD'),
+            ('OPTIONS', WIPER, 204, 'GET, HEAD, POST'),
+            ('OPTIONS', '/api/ptz_wiper/schema', 204, 'GET, HEAD'),
+        ]
+        for method, path, expected, allow in cases:
+            status, _, headers = self.server.request(method, path, '{}' if method in ('POST', 'PUT') else None)
+            self.assertEqual((status, headers.get('Allow')), (expected, allow), (method, path))
+
+
+class RequireIfMatch(unittest.TestCase):
+    def test_a_set_without_if_match_answers_428(self):
+        server = Server('--require-if-match')
+        try:
+            _, sample, headers = server.request('GET', WIPER)
+            status, body, _ = server.request('POST', WIPER, '{"autoWiper": 0}')
+            self.assertEqual(status, 428)
+            self.assertEqual(set(json.loads(body)), {'error'})
+            self.assertEqual(server.request('GET', WIPER)[1], sample)
+            status, _, _ = server.request('POST', WIPER, '{"autoWiper": 0}', headers={'If-Match': headers['ETag']})
+            self.assertEqual(status, 200)
+            self.assertEqual(server.request('GET', WIPER)[0], 200)  # reads need nothing
+        finally:
+            server.stop()
+
+
+class Cors(unittest.TestCase):
+    NAMED = 'http://127.0.0.1:5173'
+
+    @classmethod
+    def setUpClass(cls):
+        cls.server = Server('--cors', cls.NAMED, '--cors', 'http://localhost:3000')
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.server.stop()
+
+    def test_named_origins_only(self):
+        preflight = {'Access-Control-Request-Method': 'POST',
+                     'Access-Control-Request-Headers': 'if-match, content-type'}
+        cases = [
+            ('GET', self.NAMED, {}, 200, True),
+            ('GET', 'http://localhost:3000', {}, 200, True),
+            ('POST', self.NAMED, {}, 200, True),
+            ('OPTIONS', self.NAMED, preflight, 204, True),
+            ('GET', 'http://127.0.0.1:5174', {}, 200, False),
+            ('GET', 'http://127.0.0.1:5173.example.net', {}, 200, False),
+            ('OPTIONS', 'http://evil.example.net', preflight, 204, False),
+            ('GET', None, {}, 200, False),
+        ]
+        for method, origin, extra, expected, allowed in cases:
+            headers = dict(extra)
+            if origin:
+                headers['Origin'] = origin
+            status, _, answer = self.server.request(method, WIPER, '{"autoWiper": 1}' if method == 'POST' else None,
+                                                    headers=headers)
+            self.assertEqual(status, expected, (method, origin))
+            self.assertEqual(answer.get('Access-Control-Allow-Origin'), origin if allowed else None, (method, origin))
+            self.assertEqual(answer.get('Access-Control-Expose-Headers'), 'ETag' if allowed else None)
+            self.assertEqual(answer.get('Vary'), 'Origin')
+            if method == 'OPTIONS' and allowed:
+                self.assertIn('POST', answer['Access-Control-Allow-Methods'].split(', '))
+                self.assertEqual({h.strip().lower() for h in answer['Access-Control-Allow-Headers'].split(',')},
+                                 {'content-type', 'if-match', 'if-none-match'})
+            else:
+                self.assertNotIn('Access-Control-Allow-Methods', answer)
+
+    def test_no_cors_fields_without_the_option(self):
+        server = Server()
+        try:
+            _, _, answer = server.request('GET', WIPER, headers={'Origin': self.NAMED})
+            self.assertFalse([k for k in answer if k.startswith('Access-Control-')])
+        finally:
+            server.stop()
+
+
+class CommandLine(unittest.TestCase):
+    def test_malformed_options_are_refused_with_a_message(self):
+        cases = [
+            (['--port', 'x'], '--port'),
+            (['--port', '8080x'], '--port'),
+            (['--port', '70000'], '--port'),
+            (['--port', '-1'], '--port'),
+            (['--threads', '0'], '--threads'),
+            (['--threads', 'four'], '--threads'),
+            (['--timeout', '10s'], '--timeout'),
+            (['--cors', '127.0.0.1:5173'], '--cors'),
+            (['--cors', 'http://127.0.0.1:5173/app'], '--cors'),
+            (['--state'], '--state'),
+            (['--web', ''], '--web'),
+            (['--bogus', '1'], '--bogus'),
+        ]
+        for args, named in cases:
+            try:
+                run = subprocess.run([DEVICE, '--port', '0'] + args, capture_output=True, text=True, timeout=5)
+            except subprocess.TimeoutExpired:
+                self.fail('%s was taken and the server started' % args)
+            self.assertEqual(run.returncode, 2, args)
+            self.assertIn(named, run.stderr, args)
+            self.assertEqual(run.stdout, '', args)
+
+    def test_an_installed_simulator_finds_its_browser_page(self):
+        build = os.path.dirname(os.path.abspath(DEVICE))
+        prefix = tempfile.mkdtemp(prefix='mw-device-install-')
+        try:
+            subprocess.run(['cmake', '--install', build, '--prefix', prefix], check=True, capture_output=True)
+            web = os.path.join(prefix, 'share', 'middleware', 'web', 'index.html')
+            with open(web, 'a') as f:
+                f.write('<!-- installed copy -->\n')  # told apart from the source tree's
+            libraries = {os.path.dirname(os.path.join(d, f)) for d, _, files in os.walk(prefix)
+                         for f in files if f.startswith('libmiddleware')}
+            env = dict(os.environ, LD_LIBRARY_PATH=':'.join(libraries))
+            server = Server(program=os.path.join(prefix, 'bin', 'mw-device'), env=env)
+            try:
+                status, body, _ = server.request('GET', '/')
+                self.assertEqual(status, 200)
+                self.assertIn('<!-- installed copy -->', body)
+            finally:
+                server.stop()
+        finally:
+            shutil.rmtree(prefix, ignore_errors=True)
+
+
 class Persistence(unittest.TestCase):
     def setUp(self):
         self.dir = tempfile.mkdtemp(prefix='mw-device-state-')
@@ -349,6 +597,112 @@ class Persistence(unittest.TestCase):
         self.assertIn('get_ptz_rs485_json', errors)
         self.assertIn('get_ptz_wiper_json', errors)
 
+    def test_an_unchanged_page_keeps_its_tag_across_a_restart(self):
+        server = Server('--state', self.dir)
+        try:
+            status, _, _ = server.request('POST', '/api/system_water_mark?format=json',
+                                          '{"waterMarkString": "Dock 2"}')
+            self.assertEqual(status, 200)
+            before = {path: server.request('GET', path)[2]['ETag']
+                      for path in ['/api/system_water_mark?format=json', WIPER,
+                                   '/api/event_notify?format=json&eventType=5']}
+        finally:
+            server.stop()
+        again = Server('--state', self.dir)
+        try:
+            for path, tag in before.items():
+                self.assertEqual(again.request('GET', path, headers={'If-None-Match': tag})[0], 304, path)
+        finally:
+            again.stop()
+
+    def test_a_failed_save_changes_nothing_and_leaves_no_temporary_file(self):
+        # A folder where the saved document belongs: the rename over it fails.
+        os.mkdir(os.path.join(self.dir, 'get_system_water_mark_json.json'))
+        server = Server('--state', self.dir)
+        try:
+            _, before, _ = server.request('GET', '/api/system_water_mark?format=json')
+            status, body, headers = server.request('POST', '/api/system_water_mark?format=json',
+                                                   '{"waterMarkString": "Never saved"}')
+            self.assertEqual((status, json.loads(body)), (500, {'setState': 'failed'}))
+            self.assertNotIn('ETag', headers)
+            self.assertEqual(server.request('GET', '/api/system_water_mark?format=json')[1], before)
+            self.assertEqual(sorted(os.listdir(self.dir)), ['get_system_water_mark_json.json'])
+        finally:
+            server.stop()
+
+    def test_a_save_waiting_on_the_disk_holds_up_no_reader(self):
+        # A pipe where the set's temporary file goes: the save blocks until
+        # the test reads it, as a slow disk would hold it.
+        pipe = os.path.join(self.dir, 'get_system_water_mark_json.json.tmp')
+        os.mkfifo(pipe)
+        server = Server('--state', self.dir)
+
+        def drain():
+            """Reads what the save writes into the pipe, which lets it go on."""
+            reader = os.open(pipe, os.O_RDONLY | os.O_NONBLOCK)
+            written, deadline = b'', time.monotonic() + 10
+            try:
+                while time.monotonic() < deadline:
+                    try:
+                        chunk = os.read(reader, 4096)
+                    except BlockingIOError:
+                        chunk = None
+                    if chunk == b'' and written:
+                        break
+                    written += chunk or b''
+                    if not chunk:
+                        time.sleep(0.02)
+            finally:
+                os.close(reader)
+            return written
+
+        try:
+            _, before, _ = server.request('GET', '/api/system_water_mark?format=json')
+            answers = []
+            setter = threading.Thread(target=lambda: answers.append(server.request(
+                'POST', '/api/system_water_mark?format=json', '{"waterMarkString": "Stuck"}', timeout=20)))
+            setter.start()
+            time.sleep(0.3)
+            try:
+                status, shown, _ = server.request('GET', '/api/system_water_mark?format=json', timeout=3)
+                self.assertEqual((status, shown), (200, before))  # answered meanwhile, without the set
+                self.assertEqual(answers, [])                     # the set waits for its save
+            finally:
+                written = drain()
+                setter.join(timeout=10)
+            self.assertIn(b'Stuck', written)
+            # A pipe cannot be flushed to disk: the save fails and nothing changes.
+            self.assertEqual(answers[0][0], 500)
+            self.assertEqual(server.request('GET', '/api/system_water_mark?format=json')[1], before)
+        finally:
+            server.stop()
+
+    def test_concurrent_sets_save_in_the_order_they_were_accepted(self):
+        # Rounds of eight clients setting one page at the same moment: after
+        # each, the saved document is the one the page shows, and no
+        # temporary file is left.
+        server = Server('--state', self.dir)
+        try:
+            for n in range(10):
+                start = threading.Barrier(8, timeout=10)
+
+                def client(k):
+                    start.wait()
+                    server.request('POST', '/api/system_water_mark?format=json',
+                                   json.dumps({'waterMarkString': 'round %d client %d' % (n, k)}))
+
+                threads = [threading.Thread(target=client, args=(k,)) for k in range(8)]
+                for t in threads:
+                    t.start()
+                for t in threads:
+                    t.join(timeout=30)
+                _, shown, _ = server.request('GET', '/api/system_water_mark?format=json')
+                self.assertIn('round %d' % n, shown)
+                with open(os.path.join(self.dir, 'get_system_water_mark_json.json')) as f:
+                    self.assertEqual(f.read(), shown, n)
+                self.assertEqual(os.listdir(self.dir), ['get_system_water_mark_json.json'])
+        finally:
+            server.stop()
 
 if __name__ == '__main__':
     unittest.main(argv=[sys.argv[0], '-v'])

@@ -1,0 +1,139 @@
+#include "options.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+
+#ifndef MW_WEB_FROM_BIN
+#define MW_WEB_FROM_BIN "../share/middleware/web"
+#endif
+
+namespace device {
+
+namespace {
+
+// A whole number from `low` to `high`, nothing else around it.
+bool number(const char *text, unsigned long low, unsigned long high, unsigned *out)
+{
+    if (text[0] < '0' || text[0] > '9')
+        return false; // no sign, no blanks
+    char *end = nullptr;
+    errno = 0;
+    const unsigned long v = strtoul(text, &end, 10);
+    if (*end != '\0' || errno != 0 || v < low || v > high)
+        return false;
+    *out = static_cast<unsigned>(v);
+    return true;
+}
+
+// An origin as a browser sends it: scheme "://" host [":" port], no path.
+bool origin(const std::string &text)
+{
+    const size_t scheme = text.find("://");
+    if (scheme == std::string::npos || scheme == 0 || text.size() == scheme + 3)
+        return false;
+    for (const char c : text.substr(scheme + 3)) {
+        if (c == '/' || c == ' ' || c == '?' || c == '#')
+            return false;
+    }
+    return true;
+}
+
+bool has_index(const std::string &dir)
+{
+    struct stat info {};
+    return stat((dir + "/index.html").c_str(), &info) == 0 && S_ISREG(info.st_mode);
+}
+
+} // namespace
+
+const char *usage_text()
+{
+    return "usage: mw-device [--listen ADDR] [--port N] [--state DIR] [--web DIR] [--threads N]\n"
+           "                 [--timeout SECONDS] [--cors ORIGIN]... [--require-if-match]\n"
+           "       mw-device --fixed-body FILE [--listen ADDR] [--port N]\n";
+}
+
+bool parse_options(int argc, char **argv, Options *options, std::string *error)
+{
+    for (int i = 1; i < argc; ++i) {
+        const std::string arg = argv[i];
+        if (arg == "--help" || arg == "-h") {
+            error->clear();
+            return false;
+        }
+        if (arg == "--require-if-match") {
+            options->requireIfMatch = true;
+            continue;
+        }
+        static const char *const kValued[] = {"--listen", "--port", "--state", "--web",
+                                              "--threads", "--timeout", "--fixed-body", "--cors"};
+        bool known = false;
+        for (const char *name : kValued)
+            known = known || arg == name;
+        if (!known) {
+            *error = "unknown option " + arg;
+            return false;
+        }
+        if (i + 1 >= argc) {
+            *error = arg + " wants a value";
+            return false;
+        }
+        const char *value = argv[++i];
+        if (arg == "--port") {
+            if (!number(value, 0, 65535, &options->port)) {
+                *error = "--port wants a number from 0 to 65535, not \"" + std::string(value) + "\"";
+                return false;
+            }
+        } else if (arg == "--threads") {
+            if (!number(value, 1, 256, &options->threads)) {
+                *error = "--threads wants a number from 1 to 256, not \"" + std::string(value) + "\"";
+                return false;
+            }
+        } else if (arg == "--timeout") {
+            if (!number(value, 0, 86400, &options->timeout)) {
+                *error = "--timeout wants seconds from 0 to 86400, not \"" + std::string(value) + "\"";
+                return false;
+            }
+        } else if (arg == "--cors") {
+            if (!origin(value)) {
+                *error = "--cors wants an origin such as http://127.0.0.1:5173, not \"" + std::string(value) + "\"";
+                return false;
+            }
+            options->corsOrigins.push_back(value);
+        } else if (*value == '\0') {
+            *error = arg + " wants a value";
+            return false;
+        } else if (arg == "--listen") {
+            options->listen = value;
+        } else if (arg == "--state") {
+            options->stateDir = value;
+        } else if (arg == "--web") {
+            options->webDir = value;
+        } else {
+            options->fixedBody = value;
+        }
+    }
+    return true;
+}
+
+std::string default_web_dir()
+{
+    char exe[PATH_MAX];
+    const ssize_t n = readlink("/proc/self/exe", exe, sizeof exe - 1);
+    if (n > 0) {
+        exe[n] = '\0';
+        std::string dir = exe;
+        dir.resize(dir.rfind('/') + 1);
+        const std::string installed = dir + MW_WEB_FROM_BIN;
+        if (has_index(installed))
+            return installed;
+    }
+    return MW_WEB_DIR;
+}
+
+} // namespace device

@@ -1,0 +1,139 @@
+#include "pages.h"
+
+#include <cstring>
+
+namespace device {
+
+namespace {
+
+constexpr int32_t kRenderBuffer = 1 << 20;
+thread_local std::vector<char> renderBuffer(kRenderBuffer);
+
+std::vector<std::unique_ptr<Page>> pages;
+std::map<std::string, Page *> byPath;
+std::string indexText;
+
+std::string make_index()
+{
+    cJSON *root = cJSON_CreateObject();
+    cJSON *list = cJSON_AddArrayToObject(root, "pages");
+    for (const auto &page : pages) {
+        cJSON *item = cJSON_CreateObject();
+        cJSON_AddStringToObject(item, "name", page->entry->name);
+        cJSON_AddStringToObject(item, "path", page->path.c_str());
+        cJSON_AddStringToObject(item, "group", page->group.c_str());
+        cJSON_AddBoolToObject(item, "settable", page->entry->page->set != nullptr);
+        cJSON_AddStringToObject(item, "description", page->entry->description);
+        if (const char *why = catalog_read_only(*page->entry))
+            cJSON_AddStringToObject(item, "readOnly", why);
+        if (page->entry->page->argumentName != nullptr)
+            cJSON_AddStringToObject(item, "argument", page->entry->page->argumentName);
+        cJSON_AddItemToArray(list, item);
+    }
+    char *text = cJSON_Print(root);
+    std::string out = text;
+    cJSON_free(text);
+    cJSON_Delete(root);
+    return out;
+}
+
+} // namespace
+
+std::string resource_of(const char *name)
+{
+    std::string s = name;
+    for (const char *prefix : {"ware_get_", "get_"}) {
+        if (s.rfind(prefix, 0) == 0) {
+            s = s.substr(strlen(prefix));
+            break;
+        }
+    }
+    if (s.size() > 5 && s.compare(s.size() - 5, 5, "_json") == 0)
+        s.resize(s.size() - 5);
+    return s;
+}
+
+void load_pages()
+{
+    for (const CatalogGroup *group : catalog_groups()) {
+        for (size_t k = 0; k < group->count; ++k) {
+            const CatalogEntry &entry = group->entries[k];
+            if (entry.page == nullptr)
+                continue; // the reply envelopes are not pages
+            auto page = std::make_unique<Page>();
+            page->entry = &entry;
+            page->group = group->name;
+            page->path = "/api/" + resource_of(entry.name);
+            page->state.resize(entry.page->stateSize);
+            entry.page->initial(page->state.data());
+            byPath[page->path] = page.get();
+            pages.push_back(std::move(page));
+        }
+    }
+    indexText = make_index();
+}
+
+const std::vector<std::unique_ptr<Page>> &all_pages() { return pages; }
+
+Page *find_page(const std::string &path)
+{
+    const auto found = byPath.find(path);
+    return found == byPath.end() ? nullptr : found->second;
+}
+
+const std::string &index_document() { return indexText; }
+
+State snapshot(Page &page)
+{
+    std::lock_guard<std::mutex> hold(page.lock);
+    return page.state;
+}
+
+void publish(Page &page, State state)
+{
+    std::lock_guard<std::mutex> hold(page.lock);
+    page.state.swap(state);
+}
+
+Rendered render(const Page &page, State state, const Selection &selection, bool schema, std::string *out)
+{
+    const PageOps &ops = *page.entry->page;
+    if (selection.kind == Selection::given)
+        *ops.argument(state.data()) = selection.value;
+    const int32_t rc = schema ? ops.schema(state.data(), renderBuffer.data(), kRenderBuffer)
+                              : ops.render(state.data(), renderBuffer.data(), kRenderBuffer);
+    if (rc != 0)
+        return selection.kind == Selection::given ? Rendered::bad_argument : Rendered::failed;
+    *out = renderBuffer.data();
+    return Rendered::ok;
+}
+
+bool apply(const Page &page, State &state, const Selection &selection, const std::string &body, std::string *answer)
+{
+    const PageOps &ops = *page.entry->page;
+    int32_t kept = 0;
+    if (selection.kind == Selection::given) {
+        kept = *ops.argument(state.data());
+        *ops.argument(state.data()) = selection.value;
+    }
+    const int32_t rc = ops.set(state.data(), body.data(), static_cast<int32_t>(body.size()), renderBuffer.data(),
+                               kRenderBuffer);
+    *answer = renderBuffer.data();
+    if (selection.kind == Selection::given)
+        *ops.argument(state.data()) = kept; // a request does not move the page's selector
+    return rc == 0;
+}
+
+std::string format_error(const char *key)
+{
+    zk_return_format_error_json(renderBuffer.data(), kRenderBuffer, key);
+    return renderBuffer.data();
+}
+
+std::string set_failed()
+{
+    zk_return_set_request_faild_json(renderBuffer.data(), kRenderBuffer);
+    return renderBuffer.data();
+}
+
+} // namespace device

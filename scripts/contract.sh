@@ -33,6 +33,8 @@ rm -f generated/api.d.ts
 "$bin/openapi-typescript" "$out/openapi.json" --output generated/api.d.ts >&2
 "$bin/tsc" -p tsconfig.types.json
 "$bin/tsc" -p tsconfig.json
+echo "== contract: the browser page's script against the types (tsc --noEmit --checkJs)"
+"$bin/tsc" -p tsconfig.webapp.json
 
 echo "== contract: typed client (openapi-fetch) against mw-device"
 node out/client.mjs "$build/mw-device"

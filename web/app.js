@@ -13,22 +13,15 @@
 // started with --cors naming this page's origin.
 
 /**
- * The simulator's answers as this page reads them. These are the one place
- * to point at the types generated from the OpenAPI document.
+ * The simulator's answers as this page reads them, in the types generated
+ * from its OpenAPI document (tests/contract/generated/api.d.ts, made by
+ * scripts/contract.sh, which type-checks this file against them).
  *
- * @typedef {object} PageEntry   An entry of the index, GET /api.
- * @property {string} name
- * @property {string} path        "/api/ptz_wiper"
- * @property {string} group
- * @property {boolean} settable
- * @property {string} description
- * @property {string} [readOnly]  why a page is read-only
- * @property {string} [argument]  the query parameter that selects what the page shows
- *
- * @typedef {object} PageIndex   GET /api.
- * @property {PageEntry[]} pages
- *
+ * @typedef {import("../tests/contract/generated/api").components["schemas"]} Schemas
+ * @typedef {Schemas["IndexEntry"]} PageEntry   An entry of the index, GET /api.
+ * @typedef {Schemas["Index"]} PageIndex         GET /api.
  * @typedef {{[key: string]: any}} PageDocument   GET /api/<page>?format=json: a page's document.
+ * @typedef {Schemas["SetSucceed"] | Schemas["FormatError"] | Schemas["Error"]} Reply   A set request's reply.
  *
  * @typedef {object} Schema      GET /api/<page>/schema, and each member's part of it.
  * @property {string} [title]
@@ -40,8 +33,6 @@
  * @property {number} [minimum]
  * @property {number} [maximum]
  * @property {number} [maxLength]
- *
- * @typedef {{[key: string]: string}} Reply   A set request's reply envelope, or an error body.
  */
 
 /**

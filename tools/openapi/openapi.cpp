@@ -12,6 +12,8 @@
  */
 #include "openapi.h"
 
+#include <cstring>
+
 #include <map>
 #include <string>
 #include <vector>
@@ -413,8 +415,12 @@ void add_components(cJSON *components, cJSON *schemas)
     const char *keys[][2] = {{"openapi", "string"}, {"jsonSchemaDialect", "string"}, {"info", "object"},
                              {"servers", "array"},  {"security", "array"},         {"tags", "array"},
                              {"paths", "object"},   {"components", "object"}};
-    for (const auto &k : keys)
-        cJSON_AddStringToObject(cJSON_AddObjectToObject(documentKeys, k[0]), "type", k[1]);
+    for (const auto &k : keys) {
+        cJSON *key = cJSON_AddObjectToObject(documentKeys, k[0]);
+        cJSON_AddStringToObject(key, "type", k[1]);
+        if (strcmp(k[1], "array") == 0)
+            cJSON_AddObjectToObject(key, "items"); // any element: OpenAPI's own schema says more
+    }
     cJSON_AddTrueToObject(document, "additionalProperties");
     cJSON_AddItemToObject(schemas, "OpenApiDocument", document);
 

@@ -81,7 +81,7 @@ public:
         for (int32_t type = 0; type <= mw::kLastAlarmEventType; ++type)
             f(*this, type);
     }
-    void only_when(bool cond, mw::Fn<mw::Archive &> f) override
+    void only_when(bool cond, uint8_t, mw::Fn<mw::Archive &> f) override
     {
         if (cond)
             f(*this);

@@ -300,17 +300,17 @@ MW_READ_ONLY_PAGE_WITH_COUNT(cap_general_video, cap_general_video_record, "what 
     a.derived("streamCount", in->streamCount);
     const mw::Text<32> gopRange("%d~%d", in->gopMin, in->gopMax); // the same range for every stream
     const int32_t streams = mw::bounded_count(in->streamCount, mw::kStreamNameCount);
-    for (int32_t s = 0; s < streams; ++s) {
-        if (in->streamEnable[s] == 0)
-            continue;
-        a.object(mw::Name::fixed(mw::kStreamNames[s]), [&](auto &o) {
-            codec_capability(o, "H264", in->streams[s].h264);
-            codec_capability(o, "H265", in->streams[s].h265);
-            if (in->mjpegSupport[s] != 0)
-                codec_capability(o, "Mjpeg", in->streams[s].mjpeg);
-            const mw::NonzeroValues rates = mw::nonzero_values(in->bitrates[s]);
-            o.derived_numbers("bitrate", rates.values, rates.count);
-            o.derived("gopRange", gopRange);
+    for (int32_t s = 0; s < mw::kStreamNameCount; ++s) {
+        // Streams past the count, and disabled ones, are left out.
+        a.listed_if(s < streams && in->streamEnable[s] != 0, [&](auto &stream) {
+            stream.object(mw::Name::fixed(mw::kStreamNames[s]), [&](auto &o) {
+                codec_capability(o, "H264", in->streams[s].h264);
+                codec_capability(o, "H265", in->streams[s].h265);
+                o.listed_if(in->mjpegSupport[s] != 0, [&](auto &m) { codec_capability(m, "Mjpeg", in->streams[s].mjpeg); });
+                const mw::NonzeroValues rates = mw::nonzero_values(in->bitrates[s]);
+                o.derived_numbers("bitrate", rates.values, rates.count);
+                o.derived("gopRange", gopRange);
+            });
         });
     }
 })
@@ -323,13 +323,13 @@ MW_READ_ONLY_PAGE_WITH_COUNT(cap_audio, cap_audio_record, "what the camera offer
         const char *key = encoder_key(enc.encodeType);
         if (key == nullptr)
             continue; // an unknown encoder has no array, so nothing to list
-        a.list(mw::Name::fixed(key), nullptr, [&](auto &l) {
+        a.list(mw::Name::copied(key), nullptr, [&](auto &l) { // the encoder's type names the list
             const int32_t rates = mw::bounded_count(enc.sampleRateCount, 10);
             for (int32_t i = 0; i < rates; ++i) {
                 const int32_t code = enc.sampleRates[i];
                 l.item([&](auto &item) {
                     if (code >= 0 && code < 5)
-                        item.derived(mw::Name::fixed(kSampleRates[code]), code); // an unknown code: {}
+                        item.derived(mw::Name::copied(kSampleRates[code]), code); // the code names the key; an unknown code: {}
                 });
             }
         });
@@ -342,7 +342,7 @@ MW_READ_ONLY_PAGE_WITH_COUNT(cap_audio, cap_audio_record, "what the camera offer
                 const char *key = bitrate_key(table.bitrates[i]);
                 l.item([&](auto &item) {
                     if (key != nullptr)
-                        item.derived(mw::Name::fixed(key), table.bitrates[i]);
+                        item.derived(mw::Name::copied(key), table.bitrates[i]); // the rate names the key
                 });
             }
         });

@@ -79,7 +79,7 @@ void Archive::computed_numbers(const char *, const void *, Num, int32_t) {}
 void Archive::nested(const char *, Fn<Archive &>) {}
 void Archive::items(const char *, const char *, Fn<Items &>) {}
 void Archive::event_types(int32_t, Fn<Archive &, int32_t>) {}
-void Archive::only_when(bool, Fn<Archive &>) {}
+void Archive::only_when(bool, uint8_t, Fn<Archive &>) {}
 
 /* The calls of a description's lines into the archive: one place each
    makes the virtual call, so that a line is a plain call. */
@@ -88,7 +88,7 @@ void Items::placed_item(Fn<Archive &> fill) { placed(fill); }
 void Archive::object_member(const char *key, Fn<Archive &> fill) { nested(key, fill); }
 void Archive::list_member(const char *key, const char *indexKey, Fn<Items &> fill) { items(key, indexKey, fill); }
 void Archive::event_type_members(int32_t selector, Fn<Archive &, int32_t> fill) { event_types(selector, fill); }
-void Archive::members_when(bool cond, Fn<Archive &> fill) { only_when(cond, fill); }
+void Archive::members_when(bool cond, uint8_t how, Fn<Archive &> fill) { only_when(cond, how, fill); }
 
 namespace {
 
@@ -301,7 +301,7 @@ public:
             fill(sub, type);
         }
     }
-    void only_when(bool cond, Fn<Archive &> fill) override
+    void only_when(bool cond, uint8_t, Fn<Archive &> fill) override
     {
         if (cond)
             fill(*this);
@@ -766,7 +766,7 @@ public:
             nested(getAlarmEventTypeString(type), Fn<Archive &>(one));
         }
     }
-    void only_when(bool cond, Fn<Archive &> fill) override
+    void only_when(bool cond, uint8_t, Fn<Archive &> fill) override
     {
         if (cond)
             fill(*this);
@@ -855,12 +855,15 @@ bool only_blank(const char *p, const char *end)
 class Shape final : public Archive {
 public:
     /* Fills the object schema `object` (made by object_schema). With
-       `everyState`, the schema of every document the page can render: keys
-       under a.when are optional, lists take any length, every event type
-       is allowed and none is required. */
+       `everyState`, the schema of every document the page can render from
+       records shaped like these: keys under a.when are described whether or
+       not they print now (under a.when_held only while they do) and are
+       optional, every event type is allowed and none is required, and a key a record's text names
+       may be any key. Its lists still hold the elements the records hold
+       now. */
     Shape(cJSON *object, bool readOnly, bool everyState)
-        : properties_(member(object, "properties")), required_(member(object, "required")), readOnly_(readOnly),
-          every_(everyState)
+        : properties_(member(object, "properties")), required_(member(object, "required")), object_(object),
+          readOnly_(readOnly), every_(everyState)
     {
     }
 
@@ -883,7 +886,7 @@ public:
     }
     void computed_numbers(const char *key, const void *, Num kind, int32_t count) override
     {
-        this->kind(number_list(property(key, true), count, !every_), is_integral(kind) ? "integer" : "number");
+        this->kind(number_list(property(key, true), count, true), is_integral(kind) ? "integer" : "number");
     }
     void nested(const char *key, Fn<Archive &> fill) override
     {
@@ -908,12 +911,12 @@ public:
         }
         optional_ = saved;
     }
-    void only_when(bool cond, Fn<Archive &> fill) override
+    void only_when(bool cond, uint8_t how, Fn<Archive &> fill) override
     {
-        if (!cond && !every_)
+        if (!cond && !(every_ && (how & kReadable) != 0))
             return;
         const bool saved = optional_;
-        optional_ = true;
+        optional_ = optional_ || every_ || (how & kOptional) != 0;
         fill(*this);
         optional_ = saved;
     }
@@ -940,6 +943,7 @@ private:
     };
 
     cJSON *property(const char *key, bool derived);
+    cJSON *other_property(bool derived);
     static void kind(cJSON *schema, const char *type);
     static void number_schema(cJSON *schema, Num kind);
     static void text_schema(cJSON *schema, size_t capacity);
@@ -949,6 +953,7 @@ private:
 
     cJSON *properties_;
     cJSON *required_;
+    cJSON *object_;
     bool readOnly_;
     bool every_;
     bool optional_ = false;
@@ -956,8 +961,12 @@ private:
 
 cJSON *Shape::property(const char *key, bool derived)
 {
+    copy_key();
+    const bool named = named_key();
     if (properties_ == nullptr)
         return nullptr;
+    if (every_ && named)
+        return other_property(derived);
     cJSON *schema = add_child(properties_, key, cJSON_CreateObject());
     if (schema == nullptr)
         return nullptr;
@@ -966,6 +975,43 @@ cJSON *Shape::property(const char *key, bool derived)
     if (derived || readOnly_)
         cJSON_AddTrueToObject(schema, "readOnly");
     return schema;
+}
+
+/* For every state, a key the record's texts name (an option's label, a
+   section's name) is no fixed property: its value is one of the shapes
+   gathered under "additionalProperties". */
+cJSON *Shape::other_property(bool derived)
+{
+    cJSON *others = member(object_, "additionalProperties");
+    if (!cJSON_IsObject(others)) {
+        cJSON_DeleteItemFromObjectCaseSensitive(object_, "additionalProperties");
+        others = add_child(object_, "additionalProperties", cJSON_CreateObject());
+        add_child(others, "anyOf", cJSON_CreateArray());
+    }
+    cJSON *schema = add_child(member(others, "anyOf"), nullptr, cJSON_CreateObject());
+    if (schema != nullptr && (derived || readOnly_))
+        cJSON_AddTrueToObject(schema, "readOnly");
+    return schema;
+}
+
+/* The shapes gathered for keys the texts name, each once. */
+void settle_other_properties(cJSON *node)
+{
+    for (cJSON *c = node != nullptr ? node->child : nullptr; c != nullptr; c = c->next)
+        settle_other_properties(c);
+    cJSON *anyOf = member(member(node, "additionalProperties"), "anyOf");
+    if (anyOf == nullptr)
+        return;
+    for (cJSON *e = anyOf->child; e != nullptr;) {
+        cJSON *next = e->next;
+        for (cJSON *earlier = anyOf->child; earlier != e; earlier = earlier->next) {
+            if (cJSON_Compare(earlier, e, true)) {
+                cJSON_Delete(cJSON_DetachItemViaPointer(anyOf, e));
+                break;
+            }
+        }
+        e = next;
+    }
 }
 
 void Shape::kind(cJSON *schema, const char *type)
@@ -1020,15 +1066,12 @@ cJSON *Shape::object_schema(cJSON *schema)
     return schema;
 }
 
-/* The elements' schemas: "prefixItems" for the list the record holds now;
-   for every state, element schemas gathered under "anyOf" of "items". */
+/* The elements' schemas, as "prefixItems": the list the record holds now. */
 cJSON *Shape::list_schema(cJSON *schema) const
 {
     if (schema == nullptr)
         return nullptr;
     kind(schema, "array");
-    if (every_)
-        return add_child(add_child(schema, "items", cJSON_CreateObject()), "anyOf", cJSON_CreateArray());
     cJSON *items = add_child(schema, "prefixItems", cJSON_CreateArray());
     cJSON_AddFalseToObject(schema, "items");
     return items;
@@ -1036,15 +1079,6 @@ cJSON *Shape::list_schema(cJSON *schema) const
 
 void Shape::close_list(cJSON *schema) const
 {
-    if (every_) {
-        // No element seen: nothing is known of them but that they are objects.
-        cJSON *items = member(schema, "items");
-        if (cJSON_GetArraySize(member(items, "anyOf")) == 0) {
-            cJSON_DeleteItemFromObjectCaseSensitive(items, "anyOf");
-            kind(items, "object");
-        }
-        return;
-    }
     const int count = cJSON_GetArraySize(member(schema, "prefixItems"));
     // An empty list allows no element at all; its schema has no items to
     // list (an empty "prefixItems" is not a valid schema).
@@ -1063,19 +1097,9 @@ void Shape::List::add(int32_t index, Fn<Archive &> &fill)
     if (item != nullptr && indexKey_ != nullptr) {
         cJSON *schema = shape.property(indexKey_, false);
         kind(schema, "integer");
-        if (!owner_.every_)
-            cJSON_AddNumberToObject(schema, "const", index);
+        cJSON_AddNumberToObject(schema, "const", index);
     }
     fill(shape);
-    // For every state, an element like one already listed is not listed again.
-    if (owner_.every_) {
-        for (cJSON *e = elements_->child; e != nullptr && e != item; e = e->next) {
-            if (cJSON_Compare(e, item, true)) {
-                cJSON_Delete(cJSON_DetachItemViaPointer(elements_, item));
-                break;
-            }
-        }
-    }
 }
 
 /* The root of a page's schema (draft 2020-12), titled with the serializer's
@@ -1137,7 +1161,11 @@ int32_t schema(void *const *inputs, char *dst, int32_t dstSize, const Page &page
 
 cJSON *schema_of_every_state(const Page &page, const char *title, void *const *inputs)
 {
-    return schema_tree(page, title, inputs, true);
+    if (page.shown != nullptr && (page.flags & kQuietWhenHidden) == 0 && !page.shown(inputs))
+        return nullptr;
+    cJSON *root = schema_tree(page, title, inputs, true);
+    settle_other_properties(root);
+    return root;
 }
 
 int32_t render_one(void *input, char *dst, int32_t dstSize, const Page &page)

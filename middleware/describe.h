@@ -43,7 +43,15 @@
  *                               event-name table: every type for a negative
  *                               selector, else the selected one; f(a, type).
  *                               A set request may name any type.
- *   a.when(cond, f)             keys that are printed only while cond holds.
+ *   a.when(cond, f)             keys that are printed only while cond holds
+ *                               (their values readable whatever it is); no
+ *                               schema requires them.
+ *   a.when_held(cond, f)        the same for values that can be read only
+ *                               while cond holds (behind a pointer).
+ *   a.listed_if(cond, f)        keys printed only while cond holds, which the
+ *                               schema of the state at hand requires when they
+ *                               print (a stream past the count, an encoder a
+ *                               stream does not offer).
  *   a.writes()                  true while a request is applied (for a member
  *                               that must be copied back by hand).
  *
@@ -65,8 +73,9 @@
  *     so that setting one key never changes another. A test that only tells
  *     an empty slot from a used one (an id of 0, an empty name) is no such
  *     decision: the slot's members stay settable.
- *   - a key the page prints only in some states is written under a.when, so
- *     that the schema of every state leaves it optional.
+ *   - a key the page prints only in some states is written under a.when (or
+ *     a.when_held), so that the schema of every state describes it and
+ *     leaves it optional.
  *
  * A set request reads the body by exact key and refuses fractions, numbers
  * out of range and repeated list indices. The exported request readers
@@ -97,17 +106,21 @@ struct Name {
        copy. Literals and the library's tables leave it false, the cheaper
        value to pass at each of the page's lines. */
     bool copy;
+    /* The key is named by a text from elsewhere (a record's option label, a
+       platform module's name): the schema of every state allows any key
+       there. */
+    bool named;
 
     template <size_t N>
-    constexpr Name(const char (&literal)[N]) : text(literal), copy(false) {}
+    constexpr Name(const char (&literal)[N]) : text(literal), copy(false), named(false) {}
     template <typename K, typename = decltype(static_cast<const char *>(static_cast<const K *>(nullptr)->c_str()))>
-    Name(const K &generated) : text(generated.c_str()), copy(true) {}
+    Name(const K &generated) : text(generated.c_str()), copy(true), named(false) {}
 
     static constexpr Name fixed(const char *t) { return Name(t, false); }
     static constexpr Name copied(const char *t) { return Name(t, true); }
 
 private:
-    constexpr Name(const char *t, bool c) : text(t), copy(c) {}
+    constexpr Name(const char *t, bool elsewhere) : text(t), copy(elsewhere), named(elsewhere) {}
 };
 
 /* ---- number kinds ---- */
@@ -226,7 +239,17 @@ public:
     template <typename F>
     MW_INLINE_ void per_event_type(int32_t selector, F &&fill) { event_type_members(selector, Fn<Archive &, int32_t>(fill)); }
     template <typename F>
-    MW_INLINE_ void when(bool cond, F &&fill) { members_when(cond, Fn<Archive &>(fill)); }
+    MW_INLINE_ void when(bool cond, F &&fill) { members_when(cond, kReadable | kOptional, Fn<Archive &>(fill)); }
+    template <typename F>
+    MW_INLINE_ void when_held(bool cond, F &&fill) { members_when(cond, kOptional, Fn<Archive &>(fill)); }
+    template <typename F>
+    MW_INLINE_ void listed_if(bool cond, F &&fill) { members_when(cond, kReadable, Fn<Archive &>(fill)); }
+
+    /* How keys printed only while a condition holds are described. */
+    enum When : uint8_t {
+        kReadable = 1, // their values can be read whatever the condition: every state describes them
+        kOptional = 2, // the schema of the state at hand does not require them either
+    };
 
     bool writes() const { return writes_; }
 
@@ -243,7 +266,8 @@ public:
     virtual void nested(const char *key, Fn<Archive &> fill);
     virtual void items(const char *key, const char *indexKey, Fn<Items &> fill);
     virtual void event_types(int32_t selector, Fn<Archive &, int32_t> fill);
-    virtual void only_when(bool cond, Fn<Archive &> fill);
+    /* how: When flags. */
+    virtual void only_when(bool cond, uint8_t how, Fn<Archive &> fill);
 
 protected:
     explicit Archive(bool writes = false) : writes_(writes) {}
@@ -255,12 +279,21 @@ protected:
         copy_ = false;
         return copy;
     }
+    /* Whether a text from elsewhere named the key (and forgets it). */
+    bool named_key()
+    {
+        const bool named = named_;
+        named_ = false;
+        return named;
+    }
 
 private:
     MW_INLINE_ const char *key_of(Name key)
     {
         if (key.copy)
             copy_ = true;
+        if (key.named)
+            named_ = true;
         return key.text;
     }
     template <typename T, bool Writable>
@@ -296,10 +329,11 @@ private:
     void object_member(const char *key, Fn<Archive &> fill);
     void list_member(const char *key, const char *indexKey, Fn<Items &> fill);
     void event_type_members(int32_t selector, Fn<Archive &, int32_t> fill);
-    void members_when(bool cond, Fn<Archive &> fill);
+    void members_when(bool cond, uint8_t how, Fn<Archive &> fill);
 
     bool writes_;
     bool copy_ = false;
+    bool named_ = false;
 };
 
 /* The alarm event types of the event-name table: 0..47. */
@@ -379,9 +413,11 @@ int32_t apply_one(void *input, const char *body, int32_t bodySize, char *dst, in
 int32_t apply_two(void *first, void *second, const char *body, int32_t bodySize, char *dst, int32_t dstSize,
                   const Page &page);
 
-/* The schema of every document the page can render, whatever state its
-   records are in (the records still decide which optional keys and list
-   elements it lists); nullptr when memory runs out. */
+/* The schema of every document the page can render, as far as its
+   description tells it from these records: keys under a.when described and
+   optional (under a.when_held only while they print), every event type allowed, keys that records' texts name allowed under any name. Its lists hold the elements the records hold
+   now, for a caller to widen. nullptr when memory runs out, or for records
+   the page cannot show. */
 cJSON *schema_of_every_state(const Page &page, const char *title, void *const *inputs);
 
 /* A page's inputs as the description's untyped pointers. */

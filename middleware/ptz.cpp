@@ -181,7 +181,7 @@ MW_READ_ONLY_PAGE(ptz_control, "the answer to a control request", [](auto &a, au
     const bool threeD = !tour && !position && r.threeDPositionEnable != nullptr;
     const bool dehumidify = !tour && !position && !threeD && r.dehumidifyEnable != nullptr;
     const bool pattern = !tour && !position && !threeD && !dehumidify && r.ptzPatternPoint > 0 && r.pattern != nullptr;
-    a.when(tour, [&](auto &o) {
+    a.when_held(tour, [&](auto &o) {
         o("ptzTourPoint", r.ptzTourPoint);
         o.derived("ptzTourStatus", r.tour->ptzTourStatus);
         o.list("tourPresetInfo", nullptr, [&](auto &l) {
@@ -194,14 +194,14 @@ MW_READ_ONLY_PAGE(ptz_control, "the answer to a control request", [](auto &a, au
             }
         });
     });
-    a.when(position, [&](auto &o) {
+    a.when_held(position, [&](auto &o) {
         o.derived("ptzPanPos", mw::Text<32>("%0.2f", r.position[0]));
         o.derived("ptzTiltPos", mw::Text<32>("%0.2f", r.position[1]));
         o.derived("ptzZoomPos", mw::Text<32>("%0.2f", r.position[2]));
     });
-    a.when(threeD, [&](auto &o) { o.derived("ptz3dPositionEnable", *r.threeDPositionEnable); });
-    a.when(dehumidify, [&](auto &o) { o.derived("ptzDehumidifyEnable", *r.dehumidifyEnable); });
-    a.when(pattern, [&](auto &o) {
+    a.when_held(threeD, [&](auto &o) { o.derived("ptz3dPositionEnable", *r.threeDPositionEnable); });
+    a.when_held(dehumidify, [&](auto &o) { o.derived("ptzDehumidifyEnable", *r.dehumidifyEnable); });
+    a.when_held(pattern, [&](auto &o) {
         o("ptzPatternPoint", r.ptzPatternPoint);
         o.derived("ptzPatternIsRecord", r.pattern->ptzPatternIsRecord);
         o.derived("ptzPatternPatStatus", r.pattern->patStatus != 0 ? 1 : 0);

@@ -36,23 +36,26 @@ void codec_framerates(A &a, const char *codec, Group &group)
 MW_SETTABLE_PAGE(video_general, [](auto &a, auto &r) {
     a.object("streamList", [&](auto &streams) {
         const int32_t count = mw::bounded_count(r.streamCount, mw::kStreamNameCount);
-        for (int32_t i = 0; i < count; ++i) {
-            streams.object(mw::Name::fixed(mw::kStreamNames[i]), [&](auto &s) {
-                if (i != 0)
-                    s("enable", r.enable[i]); // the main stream is always on
-                s("width", r.width[i]);
-                s("height", r.height[i]);
-                s("url", r.url[i]);
-                s("profileGop", r.profileGop[i]);
-                s("rateMode", r.rateMode[i]);
-                s("framerate", r.framerate[i]);
-                s("bitrate", r.bitrate[i]);
-                s("smartStreamEnable", r.smartStreamEnable[i]);
-                s("smartStreamLevel", r.smartStreamLevel[i]);
-                s("profile", r.profile[i]);
-                s("profileCodec", r.profileCodec[i]);
-                s("rateQuality", r.rateQuality[i]);
-                s("vbrQuality", r.vbrQuality[i]);
+        for (int32_t i = 0; i < mw::kStreamNameCount; ++i) {
+            // A stream past the count is left out.
+            streams.listed_if(i < count, [&](auto &stream) {
+                stream.object(mw::Name::fixed(mw::kStreamNames[i]), [&](auto &s) {
+                    if (i != 0)
+                        s("enable", r.enable[i]); // the main stream is always on
+                    s("width", r.width[i]);
+                    s("height", r.height[i]);
+                    s("url", r.url[i]);
+                    s("profileGop", r.profileGop[i]);
+                    s("rateMode", r.rateMode[i]);
+                    s("framerate", r.framerate[i]);
+                    s("bitrate", r.bitrate[i]);
+                    s("smartStreamEnable", r.smartStreamEnable[i]);
+                    s("smartStreamLevel", r.smartStreamLevel[i]);
+                    s("profile", r.profile[i]);
+                    s("profileCodec", r.profileCodec[i]);
+                    s("rateQuality", r.rateQuality[i]);
+                    s("vbrQuality", r.vbrQuality[i]);
+                });
             });
         }
     });
@@ -62,18 +65,21 @@ MW_SETTABLE_PAGE(video_general, [](auto &a, auto &r) {
 MW_SETTABLE_PAGE(video_advanced, [](auto &a, auto &r) {
     a.object("streamList", [&](auto &streams) {
         const int32_t count = mw::bounded_count(r.streamCount, mw::kStreamNameCount);
-        for (int32_t i = 0; i < count; ++i) {
-            streams.object(mw::Name::fixed(mw::kStreamNames[i]), [&](auto &s) {
-                s("enable", r.enable[i]);
-                s("string", r.string[i]);
-                s("dateTimeEnable", r.dateTimeEnable[i]);
-                s("fontSize", r.fontSize[i]);
-                s("fontColor", r.fontColor[i]);
-                s("backgroundEnable", r.backgroundEnable[i]);
-                s("backgroundColor", r.backgroundColor[i]);
-                s("textPosition", r.textPosition[i]);
-                s("dateTimePosition", r.dateTimePosition[i]);
-                s("dateTimeFormat", r.dateTimeFormat[i]);
+        for (int32_t i = 0; i < mw::kStreamNameCount; ++i) {
+            // A stream past the count is left out.
+            streams.listed_if(i < count, [&](auto &stream) {
+                stream.object(mw::Name::fixed(mw::kStreamNames[i]), [&](auto &s) {
+                    s("enable", r.enable[i]);
+                    s("string", r.string[i]);
+                    s("dateTimeEnable", r.dateTimeEnable[i]);
+                    s("fontSize", r.fontSize[i]);
+                    s("fontColor", r.fontColor[i]);
+                    s("backgroundEnable", r.backgroundEnable[i]);
+                    s("backgroundColor", r.backgroundColor[i]);
+                    s("textPosition", r.textPosition[i]);
+                    s("dateTimePosition", r.dateTimePosition[i]);
+                    s("dateTimeFormat", r.dateTimeFormat[i]);
+                });
             });
         }
     });
@@ -86,14 +92,13 @@ MW_SETTABLE_PAGE(video_advanced, [](auto &a, auto &r) {
 MW_READ_ONLY_PAGE(video_framerate, "what the encoder offers", [](auto &a, auto &r) {
     a("streamCount", r.streamCount);
     const int32_t count = mw::bounded_count(r.streamCount, kFiveStreams);
-    for (int32_t i = 0; i < count; ++i) {
-        if (r.streamValid[i] == 0)
-            continue;
-        a.object(mw::Name::fixed(mw::kStreamNames[i]), [&](auto &s) {
-            codec_framerates(s, "H264", r.streams[i].h264);
-            codec_framerates(s, "H265", r.streams[i].h265);
-            if (r.mjpegSupport[i] != 0)
-                codec_framerates(s, "Mjpeg", r.streams[i].mjpeg);
+    for (int32_t i = 0; i < kFiveStreams; ++i) {
+        a.listed_if(i < count && r.streamValid[i] != 0, [&](auto &stream) {
+            stream.object(mw::Name::fixed(mw::kStreamNames[i]), [&](auto &s) {
+                codec_framerates(s, "H264", r.streams[i].h264);
+                codec_framerates(s, "H265", r.streams[i].h265);
+                s.listed_if(r.mjpegSupport[i] != 0, [&](auto &m) { codec_framerates(m, "Mjpeg", r.streams[i].mjpeg); });
+            });
         });
     }
 })

@@ -60,12 +60,17 @@ def resolve(node):
 
 
 def member_schema(schema, key):
-    """The schema of an object's member: by its name, or by a pattern of numbered keys."""
+    """The schema of an object's member: by its name, by a pattern of numbered keys, or, for a key a text names
+    (an option's label), the shapes any other key may take (read-only when every one of them is)."""
     if key in schema.get('properties', {}):
         return resolve(schema['properties'][key])
     for pattern, sub in schema.get('patternProperties', {}).items():
         if re.search(pattern, key):
             return resolve(sub)
+    others = schema.get('additionalProperties')
+    if isinstance(others, dict):
+        shapes = [resolve(s) for s in others.get('anyOf', [others])]
+        return {'readOnly': all(s.get('readOnly') for s in shapes)}
     raise KeyError(key)
 
 

@@ -271,6 +271,7 @@ void open_lists(cJSON *schema, const char *key)
         return;
     cJSON *p = nullptr;
     cJSON_ArrayForEach(p, member(schema, "properties")) open_lists(p, p->string);
+    open_lists(member(schema, "additionalProperties"), nullptr); // members a record's texts name
     cJSON *c = nullptr;
     cJSON_ArrayForEach(c, member(schema, "anyOf")) open_lists(c, key);
     cJSON_ArrayForEach(c, member(schema, "prefixItems")) open_lists(c, nullptr);
@@ -392,9 +393,17 @@ void number_keys(cJSON *schema)
     }
 }
 
-cJSON *schema_of_state(const PageOps &ops, std::vector<unsigned char> &state, std::vector<char> &buffer)
+/* The schema of a state as the page's description gives it for every state
+   shaped like this one (keys printed only sometimes optional, keys named by
+   texts allowed under any name); the page's own schema function where the
+   catalog cannot reach the description. */
+cJSON *schema_of_state(const CatalogEntry &entry, std::vector<unsigned char> &state, std::vector<char> &buffer)
 {
-    if (ops.schema(state.data(), buffer.data(), kBuffer) != 0)
+    if (entry.inputs != nullptr) {
+        std::vector<unsigned char> copy = state; // the capability pages split their texts in place
+        return catalog_schema_of_every_state(entry, copy.data());
+    }
+    if (entry.page->schema(state.data(), buffer.data(), kBuffer) != 0)
         return nullptr;
     return cJSON_Parse(buffer.data());
 }
@@ -414,7 +423,7 @@ cJSON *page_document_schema(const CatalogEntry &entry)
     }
     std::vector<unsigned char> sample(ops.stateSize);
     ops.initial(sample.data());
-    cJSON *merged = schema_of_state(ops, sample, buffer);
+    cJSON *merged = schema_of_state(entry, sample, buffer);
     if (merged == nullptr)
         return nullptr;
     open_lists(merged, nullptr);
@@ -431,7 +440,7 @@ cJSON *page_document_schema(const CatalogEntry &entry)
         for (int64_t v : values) {
             std::vector<unsigned char> state = sample;
             *ops.argument(state.data()) = static_cast<int32_t>(v);
-            cJSON *other = schema_of_state(ops, state, buffer);
+            cJSON *other = schema_of_state(entry, state, buffer);
             if (other == nullptr)
                 continue;
             open_lists(other, nullptr);

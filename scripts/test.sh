@@ -3,8 +3,9 @@
 # test), a short load test and the browser test of the simulator, the OpenAPI
 # document's checks by third-party tools (scripts/contract.sh), a sanitizer
 # build (ASan + UBSan), the concurrency test under ThreadSanitizer, the fuzz
-# targets for a bounded time, a coverage build held to its floor, and a
-# 64-bit Arm build run under qemu-user.
+# targets for a bounded time, a coverage build held to its floor, the shared
+# object's size held to its ceilings, and a 64-bit Arm build run under
+# qemu-user.
 # Installs what is missing first. Exits non-zero when any test fails.
 # MW_SKIP_ARM64=1 leaves out the Arm build (a quicker local run).
 set -euo pipefail
@@ -40,6 +41,9 @@ bash scripts/fuzz.sh --all "${MW_FUZZ_SECONDS:-30}"
 
 echo "== coverage of middleware/ (lines and branches)"
 bash scripts/coverage.sh build-coverage
+
+echo "== size of the shared object built for size, against bench/size_budget.txt"
+bash scripts/size.sh --check
 
 if [ "${MW_SKIP_ARM64:-0}" != 1 ]; then
     bash scripts/test-arm64.sh

@@ -32,10 +32,6 @@ struct PageOps {
     // The values the argument may take, both ends included (the page refuses
     // or lists nothing for others).
     int32_t argumentMin = 0, argumentMax = 0;
-    // The JSON Schema that every state of the page renders to (lists of any
-    // length they can take, keys printed only in some states not required,
-    // every event type allowed), or nullptr while the page offers none.
-    int32_t (*documentSchema)(char *dst, int32_t dstSize) = nullptr;
 };
 
 struct CatalogEntry {

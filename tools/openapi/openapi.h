@@ -18,10 +18,11 @@ namespace openapi {
 
 // The JSON Schema that every state of the page renders to, as a new tree the
 // caller deletes; nullptr when the page's schema cannot be printed. It comes
-// from the page's `documentSchema` where the page has one; else it is
-// widened from the schemas of the sample and of every argument value: lists
-// take any number of elements shaped like any of the sample's, keys missing
-// from some of those schemas are not required.
+// from the page's description (keys printed only sometimes optional, every
+// event type allowed, keys that texts name allowed under any name), widened
+// over the sample and every argument value: lists take any number of
+// elements shaped like any of the sample's, keys missing from some of those
+// schemas are not required.
 cJSON *page_document_schema(const CatalogEntry &entry);
 
 // "get_ptz_presets_json" -> "ptz_presets", "ware_get_auto_export_json" ->

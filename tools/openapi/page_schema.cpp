@@ -4,9 +4,11 @@
  * A page's schema function describes the document its record renders now:
  * lists with the elements the record holds, the keys this state prints, the
  * one event type the selector picks. A client needs the schema of whatever
- * the camera may send. Where the page offers it (PageOps::documentSchema) it
- * is taken as it stands; else it is widened from the schemas of the sample
- * and of the sample under every value of the page's argument:
+ * the camera may send. The page's description, read from the page table,
+ * gives the schema of every state as far as it tells (keys printed only
+ * sometimes optional, every event type allowed, keys named by texts allowed
+ * under any name); that is widened further from the sample and the sample
+ * under every value of the page's argument:
  *   - schemas of several states are merged: a key of any of them is allowed,
  *     only keys all of them require stay required, number ranges and text
  *     lengths cover all of them, differing types become a choice;
@@ -416,11 +418,6 @@ cJSON *page_document_schema(const CatalogEntry &entry)
         return nullptr;
     const PageOps &ops = *entry.page;
     std::vector<char> buffer(kBuffer);
-    if (ops.documentSchema != nullptr) {
-        if (ops.documentSchema(buffer.data(), kBuffer) != 0)
-            return nullptr;
-        return cJSON_Parse(buffer.data());
-    }
     std::vector<unsigned char> sample(ops.stateSize);
     ops.initial(sample.data());
     cJSON *merged = schema_of_state(entry, sample, buffer);

@@ -75,18 +75,27 @@ FORMAT_ERROR = lambda key: '{\n\t"%s":\t"format error"\n}' % key
 SUCCEED = '{\n\t"setState":\t"succeed"\n}'
 
 
-class Pages(unittest.TestCase):
+class WithServer(unittest.TestCase):
+    """One simulator for the whole class, started with OPTIONS."""
+    OPTIONS = ()
+
     @classmethod
     def setUpClass(cls):
-        cls.server = Server()
-        status, body, _ = cls.server.request('GET', '/api')
-        assert status == 200, status
-        cls.index = json.loads(body)['pages']
-        cls.by_name = {p['name']: p for p in cls.index}
+        cls.server = Server(*cls.OPTIONS)
 
     @classmethod
     def tearDownClass(cls):
         cls.server.stop()
+
+
+class Pages(WithServer):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        status, body, _ = cls.server.request('GET', '/api')
+        assert status == 200, status
+        cls.index = json.loads(body)['pages']
+        cls.by_name = {p['name']: p for p in cls.index}
 
     def test_index_lists_every_catalog_page_once(self):
         expected = catalog()
@@ -204,15 +213,7 @@ class Pages(unittest.TestCase):
             self.assertTrue(headers['Content-Type'].startswith(kind), path)
 
 
-class Hostile(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.server = Server()
-
-    @classmethod
-    def tearDownClass(cls):
-        cls.server.stop()
-
+class Hostile(WithServer):
     def raw(self, data, wait=5):
         with socket.create_connection(('127.0.0.1', self.server.port), timeout=wait) as s:
             s.sendall(data)
@@ -287,17 +288,9 @@ WIPER = '/api/ptz_wiper?format=json'
 STALE = '"0123456789abcdef"'
 
 
-class Conditional(unittest.TestCase):
+class Conditional(WithServer):
     """Conditional requests as RFC 9110 defines them: If-None-Match with weak
     comparison (304 for GET and HEAD), If-Match with strong comparison (412)."""
-
-    @classmethod
-    def setUpClass(cls):
-        cls.server = Server()
-
-    @classmethod
-    def tearDownClass(cls):
-        cls.server.stop()
 
     def current(self, path=WIPER):
         status, body, headers = self.server.request('GET', path)
@@ -425,16 +418,9 @@ class RequireIfMatch(unittest.TestCase):
             server.stop()
 
 
-class Cors(unittest.TestCase):
+class Cors(WithServer):
     NAMED = 'http://127.0.0.1:5173'
-
-    @classmethod
-    def setUpClass(cls):
-        cls.server = Server('--cors', cls.NAMED, '--cors', 'http://localhost:3000')
-
-    @classmethod
-    def tearDownClass(cls):
-        cls.server.stop()
+    OPTIONS = ('--cors', NAMED, '--cors', 'http://localhost:3000')
 
     def test_named_origins_only(self):
         preflight = {'Access-Control-Request-Method': 'POST',

@@ -1,5 +1,7 @@
 #include "pages.h"
 
+#include "openapi.h"
+
 #include <cstring>
 
 namespace device {
@@ -39,20 +41,6 @@ std::string make_index()
 
 } // namespace
 
-std::string resource_of(const char *name)
-{
-    std::string s = name;
-    for (const char *prefix : {"ware_get_", "get_"}) {
-        if (s.rfind(prefix, 0) == 0) {
-            s = s.substr(strlen(prefix));
-            break;
-        }
-    }
-    if (s.size() > 5 && s.compare(s.size() - 5, 5, "_json") == 0)
-        s.resize(s.size() - 5);
-    return s;
-}
-
 void load_pages()
 {
     for (const CatalogGroup *group : catalog_groups()) {
@@ -63,7 +51,7 @@ void load_pages()
             auto page = std::make_unique<Page>();
             page->entry = &entry;
             page->group = group->name;
-            page->path = "/api/" + resource_of(entry.name);
+            page->path = "/api/" + openapi::resource_of(entry.name);
             page->state.resize(entry.page->stateSize);
             entry.page->initial(page->state.data());
             byPath[page->path] = page.get();

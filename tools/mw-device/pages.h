@@ -45,9 +45,6 @@ Page *find_page(const std::string &path);
 // The index at /api: every page with its path, group and argument.
 const std::string &index_document();
 
-// "get_ptz_presets_json" -> "ptz_presets"; "ware_get_auto_export_json" -> "auto_export".
-std::string resource_of(const char *name);
-
 // A copy of the page's state, taken under its lock.
 State snapshot(Page &page);
 // Replaces the page's state under its lock.

@@ -512,6 +512,17 @@ cJSON *operation(const std::string &id, const std::string &summary, const std::s
     return o;
 }
 
+// A page operation's parameters: "format", the page's argument, and the
+// conditional header it takes.
+void page_parameters(cJSON *operation, const PageOps &ops, const char *conditional)
+{
+    cJSON *parameters = cJSON_AddArrayToObject(operation, "parameters");
+    cJSON_AddItemToArray(parameters, parameter_ref("format"));
+    if (ops.argumentName != nullptr)
+        cJSON_AddItemToArray(parameters, argument_parameter(ops));
+    cJSON_AddItemToArray(parameters, parameter_ref(conditional));
+}
+
 // "get_x_json" -> "set_x_json", "ware_get_x_json" -> "ware_set_x_json".
 std::string set_name(const std::string &name)
 {
@@ -543,11 +554,7 @@ void add_page(cJSON *paths, const CatalogGroup &group, const CatalogEntry &entry
     cJSON *item = cJSON_AddObjectToObject(paths, ("/api/" + resource).c_str());
     const std::string what = entry.description;
     cJSON *get = operation(entry.name, what, "The page's document (" + what + ").", group.name);
-    cJSON *parameters = cJSON_AddArrayToObject(get, "parameters");
-    cJSON_AddItemToArray(parameters, parameter_ref("format"));
-    if (ops.argumentName != nullptr)
-        cJSON_AddItemToArray(parameters, argument_parameter(ops));
-    cJSON_AddItemToArray(parameters, parameter_ref("If-None-Match"));
+    page_parameters(get, ops, "If-None-Match");
     cJSON *responses = cJSON_AddObjectToObject(get, "responses");
     cJSON *ok = json_reply("The page's document.", schema_ref(resource),
                            sample != nullptr ? cJSON_Duplicate(sample, true) : nullptr);
@@ -566,11 +573,7 @@ void add_page(cJSON *paths, const CatalogGroup &group, const CatalogEntry &entry
                                 "readOnly may be sent back unchanged. The first member that does not fit refuses "
                                 "the whole request, named by its key path.",
                                 group.name);
-        cJSON *postParameters = cJSON_AddArrayToObject(post, "parameters");
-        cJSON_AddItemToArray(postParameters, parameter_ref("format"));
-        if (ops.argumentName != nullptr)
-            cJSON_AddItemToArray(postParameters, argument_parameter(ops));
-        cJSON_AddItemToArray(postParameters, parameter_ref("If-Match"));
+        page_parameters(post, ops, "If-Match");
         cJSON *body = cJSON_AddObjectToObject(post, "requestBody");
         cJSON_AddTrueToObject(body, "required");
         cJSON *media = cJSON_CreateObject();

@@ -24,7 +24,7 @@ started=$SECONDS
 echo "== contract: Redocly lint (recommended)"
 "$bin/redocly" lint "$out/openapi.json" --config redocly.yaml --format summary
 echo "== contract: Spectral lint (spectral:oas)"
-"$bin/spectral" lint "$out/openapi.json" --ruleset .spectral.yaml --fail-severity error --display-only-failures \
+"$bin/spectral" lint "$out/openapi.json" --ruleset oas-rules.yaml --fail-severity error --display-only-failures \
     --format text
 
 echo "== contract: TypeScript types (openapi-typescript, tsc --strict)"

@@ -1132,7 +1132,7 @@ cJSON *schema_tree(const Page &page, const char *title, void *const *inputs, boo
 size_t staged_records(const Page &page)
 {
     size_t n = 0;
-    while (n < 2 && page.sizes[n] != 0)
+    while (n < kMaxInputs && page.sizes[n] != 0)
         ++n;
     return n;
 }
@@ -1236,8 +1236,8 @@ int32_t apply(void *const *inputs, const char *body, int32_t bodySize, char *dst
 
     // The request is applied to copies of the records; the other inputs (a
     // caller's text) are passed as they are.
-    void *staged[4] = {};
-    for (size_t i = 0; i < page.arity && i < 4; ++i)
+    void *staged[kMaxInputs] = {};
+    for (size_t i = 0; i < page.arity && i < kMaxInputs; ++i)
         staged[i] = inputs[i];
     bool copied = true;
     for (size_t i = 0; i < count; ++i) {

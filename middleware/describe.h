@@ -366,6 +366,9 @@ void schedule_list(Archive &a, Days &days)
    while a request is applied) and arguments. */
 using Walk = void (*)(Archive &a, void *const *inputs);
 
+/* The most inputs a page's functions take (records and arguments). */
+constexpr size_t kMaxInputs = 4;
+
 /* What a page is to its three functions: its description, whether a client
    may write it, the records a set request stages, and the rules a few pages
    add to the contract. Its names, its argument and why it is read-only are
@@ -376,7 +379,7 @@ struct Page {
     /* How many inputs the description takes, and the bytes of the records
        among them that a set request stages (the first ones). */
     uint8_t arity;
-    uint32_t sizes[2];
+    uint32_t sizes[kMaxInputs];
     /* Whether the record can be shown at all; nullptr: always. */
     bool (*shown)(void *const *inputs);
     /* A last look at a staged request before it is kept: nullptr, or false
@@ -415,9 +418,10 @@ int32_t apply_two(void *first, void *second, const char *body, int32_t bodySize,
 
 /* The schema of every document the page can render, as far as its
    description tells it from these records: keys under a.when described and
-   optional (under a.when_held only while they print), every event type allowed, keys that records' texts name allowed under any name. Its lists hold the elements the records hold
-   now, for a caller to widen. nullptr when memory runs out, or for records
-   the page cannot show. */
+   optional (under a.when_held only while they print), every event type
+   allowed, keys that records' texts name allowed under any name. Its lists
+   hold the elements the records hold now, for a caller to widen. nullptr
+   when memory runs out, or for records the page cannot show. */
 cJSON *schema_of_every_state(const Page &page, const char *title, void *const *inputs);
 
 /* A page's inputs as the description's untyped pointers. */

@@ -132,6 +132,7 @@ PolygonText polygon_text(const int32_t *values, size_t count);
 #define MW_PAGE_OBJECT_(prefix, resource, reason, argument, rules, arity, sizes, Types, ...)                  \
     namespace {                                                                                              \
     constexpr auto describe_##resource = __VA_ARGS__;                                                        \
+    static_assert(arity <= mw::kMaxInputs, "a page takes at most mw::kMaxInputs inputs");                   \
     void walk_##resource(mw::Archive &a, void *const *inputs)                                                \
     {                                                                                                        \
         mw::walk_with<MW_UNPAREN_ Types>(describe_##resource, a, inputs, std::make_index_sequence<arity>{});  \

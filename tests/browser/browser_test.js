@@ -80,10 +80,19 @@ async function edit(tab, selector, value) {
   await tab.type(selector, value);
 }
 
+// Waits until `predicate(...args)` holds in the tab, asking from here every
+// 100 ms: a tab in the background runs its own timers too seldom to poll.
+async function until(tab, predicate, ...args) {
+  const deadline = Date.now() + 10000;
+  while (!(await tab.evaluate(predicate, ...args))) {
+    if (Date.now() > deadline) throw new Error('timed out waiting for ' + predicate);
+    await new Promise((resolve) => setTimeout(resolve, 100));
+  }
+}
+
 async function saveAndWait(tab, status) {
   await tab.click('#save');
-  await tab.waitForFunction((s) => document.querySelector('#reply').textContent.startsWith(s), { polling: 100 },
-                           String(status));
+  await until(tab, (s) => document.querySelector('#reply').textContent.startsWith(s), String(status));
 }
 
 function check(condition, what) {
@@ -180,7 +189,7 @@ async function run() {
     await saveAndWait(second, 412);
     check(await second.$eval('#conflict', (c) => !c.hidden), 'the second tab\'s save is refused and a reload offered');
     await second.click('#conflict-reload');
-    await second.waitForFunction((s) => document.querySelector(s).value === '0', { polling: 100 }, wiper);
+    await until(second, (s) => document.querySelector(s)?.value === '0', wiper);
     await edit(second, wiper, '2');
     await saveAndWait(second, 200);
     check(await second.$eval('#conflict', (c) => c.hidden), 'after the reload it saves');

@@ -28,8 +28,27 @@ bash scripts/contract.sh build
 echo "== build (sanitizers)"
 bash scripts/build.sh build-sanitize -DMW_TESTS=ON -DMW_SANITIZE=ON
 echo "== tests (sanitizers)"
-ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
-    ctest --test-dir build-sanitize --output-on-failure -j"$(nproc)"
+export ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+# The GoogleTest suite in two shards of one process each: started test by test
+# under the sanitizers, it spends most of its time starting and checking for
+# leaks at every exit. Then the other tests (the tools') under CTest.
+pids=()
+for shard in 0 1; do
+    GTEST_TOTAL_SHARDS=2 GTEST_SHARD_INDEX=$shard ./build-sanitize/tests/middleware_tests --gtest_brief=1 \
+        >"build-sanitize/shard-$shard.log" 2>&1 &
+    pids+=($!)
+done
+failed=0
+for shard in 0 1; do
+    if ! wait "${pids[$shard]}"; then
+        tail -n 80 "build-sanitize/shard-$shard.log"
+        failed=1
+    fi
+    grep -E '^\[  (PASSED|FAILED)  \]' "build-sanitize/shard-$shard.log" || true
+done
+[ "$failed" = 0 ]
+ctest --test-dir build-sanitize --output-on-failure -j"$(nproc)" -L tools
+unset ASAN_OPTIONS UBSAN_OPTIONS
 
 echo "== concurrency test (thread sanitizer)"
 cmake -S . -B build-tsan -DMW_TESTS=ON -DMW_TSAN=ON >/dev/null

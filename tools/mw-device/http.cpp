@@ -9,6 +9,7 @@ namespace device {
 namespace {
 
 std::vector<std::string> corsOrigins;
+bool corsCredentials = false;
 
 std::string json_string(const std::string &text)
 {
@@ -67,6 +68,7 @@ Answer json(unsigned status, std::string body)
 }
 
 void set_cors_origins(const std::vector<std::string> &origins) { corsOrigins = origins; }
+void set_cors_credentials(bool on) { corsCredentials = on; }
 
 bool header_field(struct MHD_Connection *connection, const char *name, std::string *out)
 {
@@ -76,12 +78,12 @@ bool header_field(struct MHD_Connection *connection, const char *name, std::stri
     return c.found;
 }
 
-MHD_Result send(struct MHD_Connection *connection, const Answer &answer)
+struct MHD_Response *make_response(struct MHD_Connection *connection, const Answer &answer)
 {
     struct MHD_Response *response = MHD_create_response_from_buffer(
         answer.body.size(), const_cast<char *>(answer.body.data()), MHD_RESPMEM_MUST_COPY);
     if (response == nullptr)
-        return MHD_NO;
+        return nullptr;
     if (!answer.body.empty())
         MHD_add_response_header(response, MHD_HTTP_HEADER_CONTENT_TYPE, answer.type);
     if (answer.allow != nullptr)
@@ -93,16 +95,28 @@ MHD_Result send(struct MHD_Connection *connection, const Answer &answer)
         MHD_add_response_header(response, MHD_HTTP_HEADER_VARY, "Origin");
         if (const char *origin = allowed_origin(connection)) {
             MHD_add_response_header(response, MHD_HTTP_HEADER_ACCESS_CONTROL_ALLOW_ORIGIN, origin);
-            MHD_add_response_header(response, MHD_HTTP_HEADER_ACCESS_CONTROL_EXPOSE_HEADERS, "ETag");
+            MHD_add_response_header(response, MHD_HTTP_HEADER_ACCESS_CONTROL_EXPOSE_HEADERS,
+                                    corsCredentials ? "ETag, WWW-Authenticate" : "ETag");
+            if (corsCredentials)
+                MHD_add_response_header(response, "Access-Control-Allow-Credentials", "true");
             if (answer.preflight) {
                 MHD_add_response_header(response, MHD_HTTP_HEADER_ACCESS_CONTROL_ALLOW_METHODS,
                                         answer.allow != nullptr ? answer.allow : "GET, HEAD");
                 MHD_add_response_header(response, MHD_HTTP_HEADER_ACCESS_CONTROL_ALLOW_HEADERS,
-                                        "Content-Type, If-Match, If-None-Match");
+                                        corsCredentials ? "Authorization, Content-Type, If-Match, If-None-Match"
+                                                        : "Content-Type, If-Match, If-None-Match");
                 MHD_add_response_header(response, MHD_HTTP_HEADER_ACCESS_CONTROL_MAX_AGE, "600");
             }
         }
     }
+    return response;
+}
+
+MHD_Result send(struct MHD_Connection *connection, const Answer &answer)
+{
+    struct MHD_Response *response = make_response(connection, answer);
+    if (response == nullptr)
+        return MHD_NO;
     const MHD_Result result = MHD_queue_response(connection, answer.status, response);
     MHD_destroy_response(response);
     return result;

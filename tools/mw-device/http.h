@@ -26,11 +26,17 @@ Answer json(unsigned status, std::string body);
 
 // The origins answered with CORS fields; others get none.
 void set_cors_origins(const std::vector<std::string> &origins);
+// With accounts, a page on a named origin logs in: its answers also allow
+// credentials and the Authorization field and expose WWW-Authenticate.
+void set_cors_credentials(bool on);
 
 // Every line of the request's header field `name`, joined with ", " (a list
 // field may come in several lines). False when the request has none.
 bool header_field(struct MHD_Connection *connection, const char *name, std::string *out);
 
+// The answer as a response with its header fields, for the caller to queue
+// (or null when out of memory).
+struct MHD_Response *make_response(struct MHD_Connection *connection, const Answer &answer);
 MHD_Result send(struct MHD_Connection *connection, const Answer &answer);
 
 } // namespace device

@@ -4,6 +4,9 @@
  *
  *   mw-device [--listen ADDR] [--port N] [--state DIR] [--web DIR]
  *             [--threads N] [--timeout SECONDS] [--cors ORIGIN]... [--require-if-match]
+ *             [--users FILE [--digest-algorithm sha256|md5] [--lockout-seconds N]]
+ *             [--tls-cert FILE --tls-key FILE]
+ *   mw-device --add-user FILE NAME ROLE
  *   mw-device --fixed-body FILE [--listen ADDR] [--port N]
  *
  * The routes are in routes.h. Each page holds one live state (its records),
@@ -11,7 +14,9 @@
  * set is saved before it is answered and the saved documents are applied
  * again at start (persistence.h). --cors ORIGIN lets a page served from that
  * origin call the simulator; --require-if-match refuses set requests without
- * If-Match (428).
+ * If-Match (428). --users FILE asks every /api request for Digest credentials
+ * of an account in FILE and checks its role (auth.h); without it only a
+ * loopback address is served. --tls-cert and --tls-key serve HTTPS.
  *
  * --fixed-body FILE answers every request with the file's bytes through the
  * same server set-up: the yardstick of the load test.
@@ -21,6 +26,7 @@
 #include "pages.h"
 #include "persistence.h"
 #include "routes.h"
+#include "security.h"
 
 #include <microhttpd.h>
 
@@ -30,6 +36,7 @@
 #include <signal.h>
 
 #include <cstdio>
+#include <cstring>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -59,6 +66,8 @@ MHD_Result handle_fixed(void *, struct MHD_Connection *connection, const char *,
 
 int main(int argc, char **argv)
 {
+    if (argc > 1 && strcmp(argv[1], "--add-user") == 0)
+        return device::add_user_command(argc, argv);
     device::Options options;
     std::string why;
     if (!device::parse_options(argc, argv, &options, &why)) {
@@ -79,6 +88,8 @@ int main(int argc, char **argv)
     pthread_sigmask(SIG_BLOCK, &stop, nullptr);
 
     MHD_AccessHandlerCallback handler = device::handle;
+    device::Security security;
+    security.options = {{MHD_OPTION_END, 0, nullptr}};
     if (!options.fixedBody.empty()) {
         std::ifstream in(options.fixedBody, std::ios::binary);
         if (!in) {
@@ -99,6 +110,11 @@ int main(int argc, char **argv)
         routes.requireIfMatch = options.requireIfMatch;
         device::set_routes(routes);
         device::set_cors_origins(options.corsOrigins);
+        int status = 0;
+        if (!device::prepare_security(options, &security, &why, &status)) {
+            fprintf(stderr, "mw-device: %s\n", why.c_str());
+            return status;
+        }
     }
 
     struct sockaddr_in address {};
@@ -109,17 +125,19 @@ int main(int argc, char **argv)
         return 2;
     }
     struct MHD_Daemon *daemon = MHD_start_daemon(
-        MHD_USE_INTERNAL_POLLING_THREAD | MHD_USE_EPOLL | MHD_USE_ERROR_LOG, static_cast<uint16_t>(options.port),
+        MHD_USE_INTERNAL_POLLING_THREAD | MHD_USE_EPOLL | MHD_USE_ERROR_LOG | security.flags,
+        static_cast<uint16_t>(options.port),
         nullptr, nullptr, handler, nullptr, MHD_OPTION_SOCK_ADDR, reinterpret_cast<struct sockaddr *>(&address),
         MHD_OPTION_THREAD_POOL_SIZE, options.threads, MHD_OPTION_CONNECTION_TIMEOUT, options.timeout,
         MHD_OPTION_CONNECTION_LIMIT, 1000u, MHD_OPTION_URI_LOG_CALLBACK, device::begin_request, nullptr,
-        MHD_OPTION_NOTIFY_COMPLETED, device::end_request, nullptr, MHD_OPTION_END);
+        MHD_OPTION_NOTIFY_COMPLETED, device::end_request, nullptr, MHD_OPTION_ARRAY, security.options.data(),
+        MHD_OPTION_END);
     if (daemon == nullptr) {
         fprintf(stderr, "mw-device: cannot listen on %s:%u\n", options.listen.c_str(), options.port);
         return 1;
     }
     const union MHD_DaemonInfo *bound = MHD_get_daemon_info(daemon, MHD_DAEMON_INFO_BIND_PORT);
-    printf("mw-device: http://%s:%u/\n", options.listen.c_str(),
+    printf("mw-device: %s://%s:%u/\n", security.scheme, options.listen.c_str(),
            bound != nullptr ? bound->port : static_cast<unsigned>(options.port));
     fflush(stdout);
     int received = 0;

@@ -55,6 +55,10 @@ const char *usage_text()
 {
     return "usage: mw-device [--listen ADDR] [--port N] [--state DIR] [--web DIR] [--threads N]\n"
            "                 [--timeout SECONDS] [--cors ORIGIN]... [--require-if-match]\n"
+           "                 [--users FILE [--digest-algorithm sha256|md5] [--lockout-seconds N]]\n"
+           "                 [--tls-cert FILE --tls-key FILE]\n"
+           "       mw-device --add-user FILE NAME ROLE   (the password on standard input;\n"
+           "                                              ROLE: administrator, operator or viewer)\n"
            "       mw-device --fixed-body FILE [--listen ADDR] [--port N]\n";
 }
 
@@ -70,8 +74,10 @@ bool parse_options(int argc, char **argv, Options *options, std::string *error)
             options->requireIfMatch = true;
             continue;
         }
-        static const char *const kValued[] = {"--listen", "--port", "--state", "--web",
-                                              "--threads", "--timeout", "--fixed-body", "--cors"};
+        static const char *const kValued[] = {"--listen",   "--port",     "--state",          "--web",
+                                              "--threads",  "--timeout",  "--fixed-body",     "--cors",
+                                              "--users",    "--tls-cert", "--tls-key",        "--digest-algorithm",
+                                              "--lockout-seconds"};
         bool known = false;
         for (const char *name : kValued)
             known = known || arg == name;
@@ -105,6 +111,17 @@ bool parse_options(int argc, char **argv, Options *options, std::string *error)
                 return false;
             }
             options->corsOrigins.push_back(value);
+        } else if (arg == "--lockout-seconds") {
+            if (!number(value, 1, 86400, &options->lockoutSeconds)) {
+                *error = "--lockout-seconds wants seconds from 1 to 86400, not \"" + std::string(value) + "\"";
+                return false;
+            }
+        } else if (arg == "--digest-algorithm") {
+            if (strcmp(value, "sha256") != 0 && strcmp(value, "md5") != 0) {
+                *error = "--digest-algorithm wants sha256 or md5, not \"" + std::string(value) + "\"";
+                return false;
+            }
+            options->digestMd5 = strcmp(value, "md5") == 0;
         } else if (*value == '\0') {
             *error = arg + " wants a value";
             return false;
@@ -114,9 +131,19 @@ bool parse_options(int argc, char **argv, Options *options, std::string *error)
             options->stateDir = value;
         } else if (arg == "--web") {
             options->webDir = value;
+        } else if (arg == "--users") {
+            options->usersFile = value;
+        } else if (arg == "--tls-cert") {
+            options->tlsCert = value;
+        } else if (arg == "--tls-key") {
+            options->tlsKey = value;
         } else {
             options->fixedBody = value;
         }
+    }
+    if (options->tlsCert.empty() != options->tlsKey.empty()) {
+        *error = "--tls-cert and --tls-key go together";
+        return false;
     }
     return true;
 }

@@ -18,6 +18,11 @@ struct Options {
     std::string fixedBody;
     std::vector<std::string> corsOrigins;
     bool requireIfMatch = false;
+    // Accounts and HTTPS (auth.h): process-wide, for every page.
+    std::string usersFile;       // --users: none, authentication off (loopback only)
+    bool digestMd5 = false;      // --digest-algorithm md5
+    unsigned lockoutSeconds = 60; // --lockout-seconds
+    std::string tlsCert, tlsKey; // --tls-cert, --tls-key: both or neither
 };
 
 // Reads the command line into `options`. On a malformed or unknown option it

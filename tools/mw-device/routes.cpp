@@ -1,5 +1,6 @@
 #include "routes.h"
 
+#include "auth.h"
 #include "conditional.h"
 #include "http.h"
 #include "pages.h"
@@ -324,6 +325,9 @@ MHD_Result handle(void *, struct MHD_Connection *connection, const char *url, co
         *uploadSize = 0;
         return MHD_YES;
     }
+    MHD_Result refused = MHD_NO;
+    if (!admit(connection, method, url, &refused)) // accounts and roles (auth.h)
+        return refused;
     return send(connection, answer(connection, method, url, *request));
 }
 

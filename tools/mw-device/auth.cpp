@@ -194,32 +194,36 @@ bool admit(struct MHD_Connection *connection, const char *method, const char *ur
         return false;
     }
     char *name = MHD_digest_auth_get_username(connection);
-    const Account *account = name != nullptr ? find_account(name) : nullptr;
-    MHD_free(name);
-    if (account == nullptr) {
+    if (name == nullptr) {
         *result = refuse(connection, address, now);
         return false;
     }
+    // An unknown name is checked against a digest no password has, so that
+    // it is answered as a wrong password is, stale nonces included.
+    static const Account nobody;
+    const Account *found = find_account(name);
+    const Account &account = found != nullptr ? *found : nobody;
     const int checked = MHD_digest_auth_check_digest2(
-        connection, kRealm, account->name.c_str(), settings.md5 ? account->md5 : account->sha256,
-        settings.md5 ? sizeof account->md5 : sizeof account->sha256, settings.nonceSeconds, algorithm());
+        connection, kRealm, name, settings.md5 ? account.md5 : account.sha256,
+        settings.md5 ? sizeof account.md5 : sizeof account.sha256, settings.nonceSeconds, algorithm());
+    MHD_free(name);
     if (checked == MHD_INVALID_NONCE) {
         *result = challenge(connection, true, "the login is out of date");
         return false;
     }
     std::string response;
-    if (checked != MHD_YES || !digest_response(authorization, &response) || !recent.first_use(response, now)) {
+    if (checked != MHD_YES || found == nullptr || !digest_response(authorization, &response) || !recent.first_use(response, now)) {
         *result = refuse(connection, address, now);
         return false;
     }
     lockout.succeeded(address);
 
     const bool writing = strcmp(method, MHD_HTTP_METHOD_GET) != 0 && strcmp(method, MHD_HTTP_METHOD_HEAD) != 0;
-    if (permits(account->role, writing, reservedPaths.count(url) != 0))
+    if (permits(account.role, writing, reservedPaths.count(url) != 0))
         return true;
-    const std::string why = account->role == Role::viewer
+    const std::string why = account.role == Role::viewer
                                 ? "the viewer role may only read"
-                                : std::string("the ") + role_name(account->role) + " role may not change this page";
+                                : std::string("the ") + role_name(account.role) + " role may not change this page";
     *result = send(connection, error(MHD_HTTP_FORBIDDEN, why.c_str()));
     return false;
 }

@@ -17,9 +17,12 @@ bool Lockout::failed(const std::string &address, uint64_t now)
     auto found = entries_.find(address);
     if (found == entries_.end()) {
         if (entries_.size() >= kAddresses) {
+            // The address seen longest ago goes, one that is not locked out
+            // first: a flood of new addresses does not lift a lockout.
             auto oldest = entries_.begin();
             for (auto e = entries_.begin(); e != entries_.end(); ++e) {
-                if (e->second.seen < oldest->second.seen)
+                const bool eLocked = e->second.lockedUntil > now, oldestLocked = oldest->second.lockedUntil > now;
+                if (eLocked != oldestLocked ? !eLocked : e->second.seen < oldest->second.seen)
                     oldest = e;
             }
             entries_.erase(oldest);

@@ -1,9 +1,10 @@
 /*
  * Failed logins by client address: after kFailures within the window an
  * address is locked out for the same length of time. The table holds at most
- * kAddresses addresses; a new one pushes out the one seen longest ago, so a
- * flood of addresses costs bounded memory (and can at worst make the table
- * forget an address early, never lock out one that did not fail).
+ * kAddresses addresses; a new one pushes out the one seen longest ago (one not
+ * locked out, while there is one), so a flood of addresses costs bounded
+ * memory and can at worst make the table forget some failures early, never
+ * lock out an address that did not fail.
  *
  * Times are whole seconds from any fixed start, passed in by the caller: the
  * table keeps no clock of its own.

@@ -10,6 +10,8 @@
 #include <sys/random.h>
 
 #include <chrono>
+#include <cstdarg>
+#include <cstdio>
 #include <cstring>
 #include <set>
 
@@ -47,6 +49,21 @@ Lockout lockout;
 RecentResponses recent;
 uint8_t digestRandom[32];
 char opaque[33];
+
+// Set while a Digest check runs when the library reports that the nonce's
+// slot in its table was taken by a newer nonce. The check then fails like a
+// wrong password, but the client did nothing wrong: its nonce is stale.
+thread_local bool nonceLetGo = false;
+const char kLetGo[] = "Stale nonce received.";
+
+void log_line(void *, const char *format, va_list list)
+{
+    if (strncmp(format, kLetGo, sizeof kLetGo - 1) == 0) {
+        nonceLetGo = true;
+        return;
+    }
+    vfprintf(stderr, format, list);
+}
 
 uint64_t seconds_now()
 {
@@ -166,12 +183,13 @@ std::vector<MHD_OptionItem> digest_options()
             opaque[2 * i] = digits[digestRandom[i + 16] >> 4];
             opaque[2 * i + 1] = digits[digestRandom[i + 16] & 15];
         }
+        items.push_back({MHD_OPTION_EXTERNAL_LOGGER, reinterpret_cast<intptr_t>(log_line), nullptr});
         items.push_back({MHD_OPTION_DIGEST_AUTH_RANDOM, sizeof digestRandom, digestRandom});
         // Each nonce handed out takes a slot that remembers the counts used
         // with it (a replayed count is refused); a nonce whose slot was taken
         // by a newer one is refused too, so the table is sized for many
-        // clients at once (about 150 bytes a slot).
-        items.push_back({MHD_OPTION_NONCE_NC_SIZE, 4096, nullptr});
+        // clients at once (about 150 bytes a slot, 2.4 MB).
+        items.push_back({MHD_OPTION_NONCE_NC_SIZE, 16384, nullptr});
     }
     items.push_back({MHD_OPTION_END, 0, nullptr});
     return items;
@@ -203,11 +221,12 @@ bool admit(struct MHD_Connection *connection, const char *method, const char *ur
     static const Account nobody;
     const Account *found = find_account(name);
     const Account &account = found != nullptr ? *found : nobody;
+    nonceLetGo = false;
     const int checked = MHD_digest_auth_check_digest2(
         connection, kRealm, name, settings.md5 ? account.md5 : account.sha256,
         settings.md5 ? sizeof account.md5 : sizeof account.sha256, settings.nonceSeconds, algorithm());
     MHD_free(name);
-    if (checked == MHD_INVALID_NONCE) {
+    if (checked == MHD_INVALID_NONCE || (checked == MHD_NO && nonceLetGo)) {
         *result = challenge(connection, true, "the login is out of date");
         return false;
     }

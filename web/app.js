@@ -83,7 +83,9 @@ function logAnswer(method, url, response) {
  * @param {RequestInit} [init]
  */
 async function call(url, init) {
-  const response = await fetch(api + url, init);
+  // From another origin the browser sends the login it holds for the
+  // simulator only when asked to.
+  const response = await fetch(api + url, { credentials: api ? 'include' : 'same-origin', ...init });
   logAnswer(init && init.method ? init.method : 'GET', url, response);
   return response;
 }
@@ -273,6 +275,18 @@ async function save() {
     current.etag = response.headers.get('ETag');
   } else if (response.status === 412) {
     $('conflict').hidden = false;
+  } else if (response.status === 401 || response.status === 403 || response.status === 429) {
+    // Not logged in, a role that may not change this page, or locked out
+    // after failed logins: the camera's reason, in words.
+    /** @type {Record<number, string>} */
+    const labels = { 401: 'Not logged in', 403: 'Not allowed', 429: 'Too many failed logins' };
+    let why = '';
+    try {
+      why = /** @type {{error?: string}} */ (JSON.parse(text)).error || '';
+    } catch (e) {
+      why = text;
+    }
+    $('reply').textContent = response.status + ' ' + labels[response.status] + (why ? ': ' + why : '');
   } else if (response.status === 400) {
     const key = Object.keys(/** @type {Reply} */ (JSON.parse(text)))[0];
     const input = inputs.find((i) => i.dataset.path === key);

@@ -7,10 +7,12 @@
 // and saves in both: the second save is refused (412) and the tab offers a
 // reload. Serves the page from a second origin (as a front-end dev server
 // would) and reads, saves and gets a 412 through the simulator's CORS.
+// Then, against a simulator with accounts, logs in as an operator, saves a
+// page and is refused (403, shown) a save of an administrator-only page.
 // Bounded: every wait times out, the whole run within a minute.
 'use strict';
 
-const { spawn } = require('child_process');
+const { spawn, spawnSync } = require('child_process');
 const fs = require('fs');
 const http = require('http');
 const os = require('os');
@@ -208,6 +210,33 @@ async function run() {
     await edit(remote, mark, 'Too late');
     await saveAndWait(remote, 412);
     check(await remote.$eval('#conflict', (c) => !c.hidden), 'and the other origin\'s save gets the 412');
+
+    // With accounts: the browser answers the Digest challenge as an operator.
+    const users = path.join(profile, 'users');
+    const added = spawnSync(device, ['--add-user', users, 'otto', 'operator'], { input: 'op3rator pass\n' });
+    check(added.status === 0, 'an operator account is added');
+    const guarded = await startDevice(['--users', users]);
+    running = guarded.child;
+    try {
+      const login = await browser.newPage();
+      login.setDefaultTimeout(10000);
+      await login.authenticate({ username: 'otto', password: 'op3rator pass' });
+      await login.goto(guarded.url + '#get_ptz_wiper_json', { waitUntil: 'networkidle0' });
+      await login.waitForSelector(wiper);
+      check((await answerTo(login, 'GET /api/ptz_wiper')).startsWith('200'), 'the operator logs in and reads a page');
+      await edit(login, wiper, '1');
+      await saveAndWait(login, 200);
+      check(true, 'and saves it');
+      await login.goto(guarded.url + '#get_system_user_json', { waitUntil: 'networkidle0' });
+      await login.reload({ waitUntil: 'networkidle0' });
+      await login.waitForSelector('#document input');
+      await saveAndWait(login, 403);
+      const refusal = await login.$eval('#reply', (p) => p.textContent);
+      check(refusal.includes('Not allowed') && refusal.includes('operator'),
+            'a save of an administrator-only page is refused, naming the role: ' + refusal);
+    } finally {
+      guarded.child.kill('SIGTERM');
+    }
   } finally {
     pageServer.close();
     await browser.close();

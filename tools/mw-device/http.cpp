@@ -97,8 +97,9 @@ struct MHD_Response *make_response(struct MHD_Connection *connection, const Answ
             MHD_add_response_header(response, MHD_HTTP_HEADER_ACCESS_CONTROL_ALLOW_ORIGIN, origin);
             MHD_add_response_header(response, MHD_HTTP_HEADER_ACCESS_CONTROL_EXPOSE_HEADERS,
                                     corsCredentials ? "ETag, WWW-Authenticate" : "ETag");
-            if (corsCredentials)
-                MHD_add_response_header(response, "Access-Control-Allow-Credentials", "true");
+            // A page on a named origin may send the login it holds (and must
+            // be allowed to, or the browser drops the answer).
+            MHD_add_response_header(response, "Access-Control-Allow-Credentials", "true");
             if (answer.preflight) {
                 MHD_add_response_header(response, MHD_HTTP_HEADER_ACCESS_CONTROL_ALLOW_METHODS,
                                         answer.allow != nullptr ? answer.allow : "GET, HEAD");

@@ -26,8 +26,8 @@ Answer json(unsigned status, std::string body);
 
 // The origins answered with CORS fields; others get none.
 void set_cors_origins(const std::vector<std::string> &origins);
-// With accounts, a page on a named origin logs in: its answers also allow
-// credentials and the Authorization field and expose WWW-Authenticate.
+// Named origins may send credentials; with accounts their answers also
+// expose WWW-Authenticate and preflights allow the Authorization field.
 void set_cors_credentials(bool on);
 
 // Every line of the request's header field `name`, joined with ", " (a list

@@ -126,12 +126,12 @@ int main(int argc, char **argv)
     }
     struct MHD_Daemon *daemon = MHD_start_daemon(
         MHD_USE_INTERNAL_POLLING_THREAD | MHD_USE_EPOLL | MHD_USE_ERROR_LOG | security.flags,
-        static_cast<uint16_t>(options.port),
-        nullptr, nullptr, handler, nullptr, MHD_OPTION_SOCK_ADDR, reinterpret_cast<struct sockaddr *>(&address),
+        static_cast<uint16_t>(options.port), nullptr, nullptr, handler, nullptr,
+        // Digest and TLS options first: they name the logger, which must come first.
+        MHD_OPTION_ARRAY, security.options.data(), MHD_OPTION_SOCK_ADDR, reinterpret_cast<struct sockaddr *>(&address),
         MHD_OPTION_THREAD_POOL_SIZE, options.threads, MHD_OPTION_CONNECTION_TIMEOUT, options.timeout,
         MHD_OPTION_CONNECTION_LIMIT, 1000u, MHD_OPTION_URI_LOG_CALLBACK, device::begin_request, nullptr,
-        MHD_OPTION_NOTIFY_COMPLETED, device::end_request, nullptr, MHD_OPTION_ARRAY, security.options.data(),
-        MHD_OPTION_END);
+        MHD_OPTION_NOTIFY_COMPLETED, device::end_request, nullptr, MHD_OPTION_END);
     if (daemon == nullptr) {
         fprintf(stderr, "mw-device: cannot listen on %s:%u\n", options.listen.c_str(), options.port);
         return 1;

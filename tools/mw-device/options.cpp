@@ -55,6 +55,7 @@ const char *usage_text()
 {
     return "usage: mw-device [--listen ADDR] [--port N] [--state DIR] [--web DIR] [--threads N]\n"
            "                 [--timeout SECONDS] [--cors ORIGIN]... [--require-if-match]\n"
+           "                 [--cameras N] [--first-id K]\n"
            "       mw-device --fixed-body FILE [--listen ADDR] [--port N]\n";
 }
 
@@ -71,7 +72,8 @@ bool parse_options(int argc, char **argv, Options *options, std::string *error)
             continue;
         }
         static const char *const kValued[] = {"--listen", "--port", "--state", "--web",
-                                              "--threads", "--timeout", "--fixed-body", "--cors"};
+                                              "--threads", "--timeout", "--fixed-body", "--cors",
+                                              "--cameras", "--first-id"};
         bool known = false;
         for (const char *name : kValued)
             known = known || arg == name;
@@ -92,6 +94,19 @@ bool parse_options(int argc, char **argv, Options *options, std::string *error)
         } else if (arg == "--threads") {
             if (!number(value, 1, 256, &options->threads)) {
                 *error = "--threads wants a number from 1 to 256, not \"" + std::string(value) + "\"";
+                return false;
+            }
+            options->threadsGiven = true;
+        } else if (arg == "--cameras") {
+            if (!number(value, 1, kMaxCameras, &options->cameras)) {
+                *error = "--cameras wants a number from 1 to " + std::to_string(kMaxCameras) + ", not \"" +
+                         std::string(value) + "\"";
+                return false;
+            }
+        } else if (arg == "--first-id") {
+            if (!number(value, 1, kMaxCameraId, &options->firstId)) {
+                *error = "--first-id wants a number from 1 to " + std::to_string(kMaxCameraId) + ", not \"" +
+                         std::string(value) + "\"";
                 return false;
             }
         } else if (arg == "--timeout") {
@@ -117,6 +132,25 @@ bool parse_options(int argc, char **argv, Options *options, std::string *error)
         } else {
             options->fixedBody = value;
         }
+    }
+    // Camera k listens on --port + k - 1: the ports must be known and exist.
+    if (options->cameras > 1 && options->port == 0) {
+        *error = "--cameras above 1 wants a --port to count from, not 0";
+        return false;
+    }
+    if (options->port + options->cameras - 1 > 65535) {
+        *error = "--cameras " + std::to_string(options->cameras) + " from --port " + std::to_string(options->port) +
+                 " runs past port 65535";
+        return false;
+    }
+    if (options->first_id() + options->cameras - 1 > kMaxCameraId) {
+        *error = "--first-id " + std::to_string(options->first_id()) + " with --cameras " +
+                 std::to_string(options->cameras) + " runs past camera " + std::to_string(kMaxCameraId);
+        return false;
+    }
+    if (!options->fixedBody.empty() && options->cameras > 1) {
+        *error = "--fixed-body serves one server, not --cameras";
+        return false;
     }
     return true;
 }

@@ -15,9 +15,11 @@ namespace device {
 namespace {
 
 constexpr int32_t kBuffer = 1 << 20;
-std::string stateDir;
 
-std::string saved_path(const Page &page) { return stateDir + "/" + page.entry->name + ".json"; }
+std::string saved_path(const Camera &camera, const Page &page)
+{
+    return camera.state_dir() + "/" + page.entry->name + ".json";
+}
 
 bool write_all(int fd, const std::string &text)
 {
@@ -59,18 +61,32 @@ void strip_read_only(cJSON *doc, const cJSON *schema)
 
 } // namespace
 
-void set_state_dir(const std::string &dir)
+std::string camera_state_dir(const std::string &dir, unsigned id)
 {
-    stateDir = dir;
-    if (!stateDir.empty())
-        mkdir(stateDir.c_str(), 0755);
+    if (dir.empty())
+        return dir;
+    char name[32];
+    snprintf(name, sizeof name, "/camera-%04u", id);
+    return dir + name;
 }
 
-bool saving() { return !stateDir.empty(); }
-
-bool save(const Page &page, const std::string &document)
+bool prepare_state_dir(const Camera &camera, std::string *why)
 {
-    const std::string target = saved_path(page);
+    const std::string &dir = camera.state_dir();
+    if (dir.empty())
+        return true;
+    if (mkdir(dir.c_str(), 0755) != 0 && errno != EEXIST) {
+        *why = "cannot make " + dir + ": " + strerror(errno);
+        return false;
+    }
+    return true;
+}
+
+bool saving(const Camera &camera) { return !camera.state_dir().empty(); }
+
+bool save(const Camera &camera, const Page &page, const std::string &document)
+{
+    const std::string target = saved_path(camera, page);
     const std::string temporary = target + ".tmp";
     const int fd = open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (fd < 0)
@@ -80,7 +96,7 @@ bool save(const Page &page, const std::string &document)
         unlink(temporary.c_str());
         return false;
     }
-    const int dir = open(stateDir.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int dir = open(camera.state_dir().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (dir < 0)
         return false;
     const bool synced = fsync(dir) == 0;
@@ -88,30 +104,33 @@ bool save(const Page &page, const std::string &document)
     return synced;
 }
 
-void restore()
+void restore(Camera &camera)
 {
-    std::vector<char> out(kBuffer);
-    for (const auto &page : all_pages()) {
-        const PageOps &ops = *page->entry->page;
-        std::ifstream in(saved_path(*page), std::ios::binary);
-        if (!in || ops.set == nullptr)
+    std::unique_ptr<char[]> out(new char[kBuffer]);
+    for (size_t k = 0; k < camera.page_count(); ++k) {
+        Page &page = camera.page(k);
+        const PageOps &ops = *page.entry->page;
+        if (ops.set == nullptr)
+            continue;
+        std::ifstream in(saved_path(camera, page), std::ios::binary);
+        if (!in)
             continue;
         std::stringstream text;
         text << in.rdbuf();
         cJSON *doc = cJSON_Parse(text.str().c_str());
+        State state = snapshot(page);
         std::string why;
-        if (doc == nullptr || ops.schema(page->state.data(), out.data(), kBuffer) != 0) {
+        if (doc == nullptr || ops.schema(state.data(), out.get(), kBuffer) != 0) {
             why = "not a JSON document";
         } else {
-            cJSON *schema = cJSON_Parse(out.data());
+            cJSON *schema = cJSON_Parse(out.get());
             strip_read_only(doc, schema);
             cJSON_Delete(schema);
             char *body = cJSON_PrintUnformatted(doc);
-            State before = page->state;
-            if (ops.set(page->state.data(), body, static_cast<int32_t>(strlen(body)), out.data(), kBuffer) != 0) {
-                why = out.data();
-                page->state = before;
-            }
+            if (ops.set(state.data(), body, static_cast<int32_t>(strlen(body)), out.get(), kBuffer) == 0)
+                publish(page, std::move(state));
+            else
+                why = out.get();
             cJSON_free(body);
         }
         cJSON_Delete(doc);
@@ -119,7 +138,7 @@ void restore()
             for (char &c : why)
                 c = c == '\n' || c == '\t' ? ' ' : c;
             fprintf(stderr, "mw-device: the saved %s no longer applies (%s): it starts from its sample\n",
-                    page->entry->name, why.c_str());
+                    saved_path(camera, page).c_str(), why.c_str());
         }
     }
 }

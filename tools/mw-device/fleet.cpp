@@ -27,10 +27,16 @@ struct MHD_Daemon *start_server(const Options &options, unsigned port, unsigned 
     address.sin_port = htons(static_cast<uint16_t>(port));
     if (inet_pton(AF_INET, options.listen.c_str(), &address.sin_addr) != 1)
         return nullptr;
+    // A pool of one thread is no pool: the option is left out (the library
+    // warns of it otherwise, once per server).
+    struct MHD_OptionItem pool[] = {
+        {threads > 1 ? MHD_OPTION_THREAD_POOL_SIZE : MHD_OPTION_END, static_cast<intptr_t>(threads), nullptr},
+        {MHD_OPTION_END, 0, nullptr},
+    };
     return MHD_start_daemon(
         MHD_USE_INTERNAL_POLLING_THREAD | MHD_USE_EPOLL | MHD_USE_ERROR_LOG, static_cast<uint16_t>(port), nullptr,
         nullptr, handler, cls, MHD_OPTION_SOCK_ADDR, reinterpret_cast<struct sockaddr *>(&address),
-        MHD_OPTION_THREAD_POOL_SIZE, threads > 1 ? threads : 0u, MHD_OPTION_CONNECTION_TIMEOUT, options.timeout,
+        MHD_OPTION_ARRAY, pool, MHD_OPTION_CONNECTION_TIMEOUT, options.timeout,
         MHD_OPTION_CONNECTION_LIMIT, 1000u, MHD_OPTION_URI_LOG_CALLBACK, begin_request, nullptr,
         MHD_OPTION_NOTIFY_COMPLETED, end_request, nullptr, MHD_OPTION_END);
 }

@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <cstring>
 #include <fstream>
+#include <memory>
+#include <mutex>
 #include <sstream>
 
 namespace device {
@@ -59,6 +61,49 @@ void strip_read_only(cJSON *doc, const cJSON *schema)
     }
 }
 
+// The document and schema of every page's shared sample, made at the first
+// saved document of the page that needs them and kept: a fleet's cameras
+// restoring the same page from its sample ask for the same ones.
+class Samples {
+public:
+    Samples() : once_(page_kinds().size()), schemas_(page_kinds().size(), nullptr), documents_(page_kinds().size())
+    {
+    }
+    ~Samples()
+    {
+        for (cJSON *schema : schemas_)
+            cJSON_Delete(schema);
+    }
+    const cJSON *schema(size_t k)
+    {
+        make(k);
+        return schemas_[k];
+    }
+    const std::string &document(size_t k)
+    {
+        make(k);
+        return documents_[k];
+    }
+
+private:
+    void make(size_t k)
+    {
+        std::call_once(once_[k], [&] {
+            const PageKind &kind = page_kinds()[k];
+            std::unique_ptr<char[]> out(new char[kBuffer]);
+            State sample = *kind.sample;
+            if (kind.entry->page->render(sample.data(), out.get(), kBuffer) == 0)
+                documents_[k] = out.get();
+            sample = *kind.sample;
+            if (kind.entry->page->schema(sample.data(), out.get(), kBuffer) == 0)
+                schemas_[k] = cJSON_Parse(out.get());
+        });
+    }
+    std::vector<std::once_flag> once_;
+    std::vector<cJSON *> schemas_;
+    std::vector<std::string> documents_;
+};
+
 } // namespace
 
 std::string camera_state_dir(const std::string &dir, unsigned id)
@@ -106,6 +151,7 @@ bool save(const Camera &camera, const Page &page, const std::string &document)
 
 void restore(Camera &camera)
 {
+    static Samples samples;
     std::unique_ptr<char[]> out(new char[kBuffer]);
     for (size_t k = 0; k < camera.page_count(); ++k) {
         Page &page = camera.page(k);
@@ -117,20 +163,31 @@ void restore(Camera &camera)
             continue;
         std::stringstream text;
         text << in.rdbuf();
+        const bool sample = shares_sample(page);
+        // A saved document that is the sample's, as saved: the page stays
+        // as it is, sharing the sample.
+        if (sample && text.str() == samples.document(k))
+            continue;
         cJSON *doc = cJSON_Parse(text.str().c_str());
         State state = snapshot(page);
+        // The page's own state has a schema of its own; its sample's is kept.
+        cJSON *own = nullptr;
+        const cJSON *schema = nullptr;
+        if (doc != nullptr && sample)
+            schema = samples.schema(k);
+        else if (doc != nullptr && ops.schema(state.data(), out.get(), kBuffer) == 0)
+            schema = own = cJSON_Parse(out.get());
         std::string why;
-        if (doc == nullptr || ops.schema(state.data(), out.get(), kBuffer) != 0) {
+        if (schema == nullptr) {
             why = "not a JSON document";
         } else {
-            cJSON *schema = cJSON_Parse(out.get());
             strip_read_only(doc, schema);
-            cJSON_Delete(schema);
+            cJSON_Delete(own);
             char *body = cJSON_PrintUnformatted(doc);
-            if (ops.set(state.data(), body, static_cast<int32_t>(strlen(body)), out.get(), kBuffer) == 0)
-                publish(page, std::move(state));
-            else
+            if (ops.set(state.data(), body, static_cast<int32_t>(strlen(body)), out.get(), kBuffer) != 0)
                 why = out.get();
+            else if (state != snapshot(page)) // a document that is the page as it stands costs no copy
+                publish(page, std::move(state));
             cJSON_free(body);
         }
         cJSON_Delete(doc);

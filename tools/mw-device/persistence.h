@@ -30,8 +30,8 @@ bool save(const Camera &camera, const Page &page, const std::string &document);
 
 // Applies the saved documents through the set functions, without their
 // read-only members. A document that no longer applies is reported on stderr
-// and its page keeps the sample. A page that takes its saved document gets a
-// state of its own; the others go on sharing the sample.
+// and its page keeps the sample. A page whose saved document changes it gets
+// a state of its own; the others go on sharing the sample.
 void restore(Camera &camera);
 
 } // namespace device

@@ -306,5 +306,52 @@ class CommandLine(unittest.TestCase):
             process.stderr.close()
 
 
+class SupervisorUnit(unittest.TestCase):
+    """The systemd template unit that runs a large fleet as several processes."""
+    UNIT = os.path.join(os.path.dirname(os.path.abspath(__file__)), '..', '..', 'tools', 'systemd',
+                        'mw-device-fleet@.service')
+
+    def test_the_unit_verifies_without_a_warning(self):
+        if shutil.which('systemd-analyze') is None:
+            self.skipTest('systemd-analyze is not installed')
+        run = subprocess.run(['systemd-analyze', 'verify', self.UNIT], capture_output=True, text=True, timeout=60)
+        self.assertEqual((run.returncode, run.stdout + run.stderr), (0, ''))
+
+    def test_instances_serve_disjoint_numbers_and_ports(self):
+        # The unit's own command line, run as systemd would run instances 1
+        # and 2 (%i replaced), with this build's simulator, three cameras
+        # each and a state folder of the test's.
+        with open(self.UNIT) as f:
+            unit = f.read()
+        command = re.search(r"^ExecStart=/bin/sh -c '(.*)'$", unit, re.M).group(1)
+        state = tempfile.mkdtemp(prefix='mw-fleet-unit-')
+        self.addCleanup(shutil.rmtree, state)
+        base = random.randrange(20000, 32000)
+        listed = []
+        for instance in (1, 2):
+            line = command.replace('%i', str(instance)).replace('/usr/local/bin/mw-device', DEVICE)
+            line = line.replace('/var/lib/mw-device-fleet', state)
+            env = dict(os.environ, MW_CAMERAS='3', MW_BASE_PORT=str(base), MW_LISTEN='127.0.0.1')
+            process = subprocess.Popen(['/bin/sh', '-c', line], stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                                       text=True, env=env)
+            try:
+                first = process.stdout.readline()
+                if not first:
+                    self.skipTest('a port of the range is taken: ' + process.stderr.read())
+                port = int(first.rsplit(':', 1)[1].strip('/\n'))
+                connection = http.client.HTTPConnection('127.0.0.1', port, timeout=10)
+                connection.request('GET', '/fleet')
+                listed += json.loads(connection.getresponse().read())['cameras']
+                connection.close()
+            finally:
+                process.terminate()
+                process.wait(timeout=10)
+                process.stdout.close()
+                process.stderr.close()
+        self.assertEqual([c['id'] for c in listed], [1, 2, 3, 4, 5, 6])
+        self.assertEqual([c['url'] for c in listed], ['http://127.0.0.1:%d' % (base + k) for k in range(6)])
+        self.assertEqual(len({c['mac'] for c in listed}), 6)
+
+
 if __name__ == '__main__':
     unittest.main(argv=sys.argv[:1], verbosity=1)

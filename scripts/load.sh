@@ -4,6 +4,10 @@
 # requests, and the same load against a fixed-body server from the same HTTP
 # set-up; fails when the simulator keeps less than half the fixed-body rate.
 #   scripts/load.sh [--seconds S] [--connections C]
+# With --cameras N it loads N cameras of one process instead, beside one
+# camera under the same load, and fails when the fleet keeps less than 0.8 of
+# that camera's rate:
+#   scripts/load.sh --cameras 100
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/setup.sh

@@ -7,7 +7,7 @@ set -euo pipefail
 # stdout.
 exec 1>&2
 
-packages=(cmake make g++ gcc binutils pkg-config libcjson-dev libgtest-dev libbenchmark-dev python3 python3-jsonschema gcovr clang libclang-rt-dev libmicrohttpd-dev libgnutls28-dev wrk openssl curl python3-requests)
+packages=(cmake make g++ gcc binutils pkg-config libcjson-dev libgtest-dev libbenchmark-dev python3 python3-jsonschema gcovr clang libclang-rt-dev libmicrohttpd-dev libgnutls28-dev wrk openssl curl python3-requests systemd)
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -19,6 +19,7 @@ ctest --test-dir build --output-on-failure -j"$(nproc)"
 
 echo "== device simulator: short load test and the browser page in Chromium"
 python3 tests/device/load.py build/mw-device --seconds 2 --connections 16
+python3 tests/device/load.py build/mw-device --seconds 2 --cameras 20
 bash scripts/setup-browser.sh
 node tests/browser/browser_test.js build/mw-device build/browser-test.png
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Load on the device simulator with wrk, on 127.0.0.1 only, bounded in time.
 
-    load.py MW_DEVICE [--seconds S] [--connections C] [--threads T] [--enforce]
+    load.py MW_DEVICE [--seconds S] [--connections C] [--threads T] [--enforce] [--cameras N]
 
 Runs, in one go: GETs spread over every page; a mixed run where one request
 in ten posts a page's own document back; and the same GET load against
@@ -16,6 +16,12 @@ challenge of a page once and then reusing its nonce with a rising count, as a
 browser does) runs the same GETs against the simulator without and with
 accounts (--users). With --enforce it fails when authenticated requests keep
 less than half the unauthenticated rate.
+
+With --cameras N it loads a fleet instead: the same mix of GETs and sets
+spread over the N cameras of one `mw-device --cameras N` (wrk's threads each
+on a camera of their own, one connection each), and the same load with as
+many threads and connections on one camera of a plain run; it prints both
+rates and their ratio, and with --enforce fails below 0.8.
 """
 import argparse
 import http.client
@@ -23,6 +29,7 @@ import hashlib
 import json
 import multiprocessing
 import os
+import random
 import re
 import subprocess
 import sys
@@ -36,6 +43,7 @@ parser.add_argument('--connections', type=int, default=64)
 parser.add_argument('--threads', type=int, default=2)
 parser.add_argument('--enforce', action='store_true')
 parser.add_argument('--digest-clients', type=int, default=4)
+parser.add_argument('--cameras', type=int, default=0)
 options = parser.parse_args()
 
 
@@ -60,8 +68,18 @@ def lua_string(text):
     return '[' + level + '[' + text + ']' + level + ']'
 
 
-def script(paths, posts):
-    lines = ['local paths = {' + ','.join(lua_string(p + '?format=json') for p in paths) + '}',
+def script(paths, posts, ports=()):
+    # wrk's threads are set up one after another in one Lua state: thread n
+    # connects to the n-th port (round robin), so each loads its own camera.
+    lines = ['local ports = {' + ','.join(str(p) for p in ports) + '}',
+             'local threads = 0',
+             'setup = function(thread)',
+             '  threads = threads + 1',
+             '  if #ports > 0 then',
+             '    thread.addr = wrk.lookup("127.0.0.1", tostring(ports[(threads - 1) % #ports + 1]))[1]',
+             '  end',
+             'end',
+             'local paths = {' + ','.join(lua_string(p + '?format=json') for p in paths) + '}',
              'local posts = {' + ','.join('{%s, %s}' % (lua_string(p + '?format=json'), lua_string(b))
                                           for p, b in posts) + '}',
              'local n = 0',
@@ -80,7 +98,7 @@ def script(paths, posts):
 
 
 def wrk(port, lua):
-    out = subprocess.run(['wrk', '-t', str(options.threads), '-c', str(options.connections),
+    out = subprocess.run(['wrk', '-t', str(options.threads), '-c', str(max(options.connections, options.threads)),
                           '-d', '%ds' % options.seconds, '--latency', '-s', lua, 'http://127.0.0.1:%d/' % port],
                          check=True, capture_output=True, text=True, timeout=options.seconds + 60).stdout
     rps = float(re.search(r'Requests/sec:\s+([\d.]+)', out).group(1))
@@ -155,6 +173,59 @@ def digest_run(port, paths, account):
         w.join(timeout=10)
     return sum(t[0] for t in totals) / options.seconds, sum(t[1] for t in totals)
 
+
+def fleet_load():
+    """One camera against a fleet of options.cameras, the same mix of GETs and sets."""
+    n = options.cameras
+    options.threads = options.connections = n  # a thread and a connection per camera
+    single, single_port = start()
+    fleet = None
+    try:
+        for _ in range(10):
+            base = random.randrange(20000, 32000 - n)
+            fleet = subprocess.Popen([options.device, '--cameras', str(n), '--port', str(base)],
+                                     stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+            if fleet.stdout.readline().startswith('mw-device: http://'):
+                break
+            fleet.wait(timeout=10)  # a port of the range was taken
+            fleet = None
+        if fleet is None:
+            raise RuntimeError('no free range of ports')
+        ports = [base + k for k in range(n)]
+        pages = json.loads(get(single_port, '/api')[1])['pages']
+        documents = {p['path']: get(single_port, p['path'] + '?format=json')[1] for p in pages}
+        # Sets post the page's own document back, leaving out the pages that
+        # carry a camera's identity (they differ from camera to camera).
+        posts = [(p['path'], documents[p['path']]) for p in pages if p['settable'] and
+                 len(documents[p['path']]) < 8000 and get(ports[-1], p['path'] + '?format=json')[1] ==
+                 documents[p['path']]]
+        one = wrk(single_port, script(list(documents), posts))
+        many = wrk(base, script(list(documents), posts, ports))
+        print('%-30s %12s %10s' % ('run (GET, one in ten a set)', 'requests/s', 'p99 ms'))
+        failed = False
+        for name, (rps, p99, bad, errors) in [('one camera', one), ('%d cameras' % n, many)]:
+            print('%-30s %12.0f %10.2f%s' % (name, rps, p99, '' if not bad and not errors else
+                                              '   non-2xx %d, socket errors: %s' % (bad, errors)))
+            failed |= bad > 0
+        ratio = many[0] / one[0]
+        print('%d cameras\' rate / one camera\'s: %.2f (%d wrk threads, one connection each)' % (n, ratio, n))
+        # After the load every camera still answers its own identity.
+        macs = {json.loads(get(p, '/api/system_information?format=json')[1])['mac'] for p in ports}
+        failed |= len(macs) != n
+        if options.enforce and ratio < 0.8:
+            print('the fleet keeps less than 0.8 of one camera\'s rate')
+            failed = True
+        return failed
+    finally:
+        single.terminate()
+        single.wait(timeout=10)
+        if fleet is not None:
+            fleet.terminate()
+            fleet.wait(timeout=30)
+
+
+if options.cameras:
+    sys.exit(1 if fleet_load() else 0)
 
 simulator, port = start()
 secured = None

@@ -9,6 +9,7 @@
 #include <netinet/in.h>
 #include <sys/random.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdarg>
 #include <cstdio>
@@ -139,10 +140,10 @@ bool set_auth(const AuthSettings &s, std::string *error)
     lockout.set_seconds(s.lockoutSeconds);
     reservedPaths.clear();
     for (const Reserved &r : kAdministratorOnly) {
-        const Page *found = nullptr;
-        for (const auto &page : all_pages()) {
-            if (strcmp(page->entry->name, r.name) == 0)
-                found = page.get();
+        const PageKind *found = nullptr;
+        for (const PageKind &page : page_kinds()) {
+            if (strcmp(page.entry->name, r.name) == 0)
+                found = &page;
         }
         if (found == nullptr || found->entry->page == nullptr || found->entry->page->set == nullptr) {
             *error = std::string("the administrator-only page ") + r.name + " is not a settable page";
@@ -170,7 +171,7 @@ bool permits(Role role, bool writing, bool administratorOnly)
 
 const std::vector<Reserved> &administrator_only() { return kAdministratorOnly; }
 
-std::vector<MHD_OptionItem> digest_options()
+std::vector<MHD_OptionItem> digest_options(unsigned cameras)
 {
     std::vector<MHD_OptionItem> items;
     if (auth_on()) {
@@ -188,8 +189,10 @@ std::vector<MHD_OptionItem> digest_options()
         // Each nonce handed out takes a slot that remembers the counts used
         // with it (a replayed count is refused); a nonce whose slot was taken
         // by a newer one is refused too, so the table is sized for many
-        // clients at once (about 150 bytes a slot, 2.4 MB).
-        items.push_back({MHD_OPTION_NONCE_NC_SIZE, 16384, nullptr});
+        // clients at once (about 150 bytes a slot, 2.4 MB). The cameras of a
+        // fleet have a table each and share those slots, down to 1024 each.
+        const unsigned slots = std::max(1024u, 16384u / std::max(cameras, 1u));
+        items.push_back({MHD_OPTION_NONCE_NC_SIZE, static_cast<intptr_t>(slots), nullptr});
     }
     items.push_back({MHD_OPTION_END, 0, nullptr});
     return items;

@@ -54,8 +54,9 @@ const std::vector<Reserved> &administrator_only();
 
 // libmicrohttpd's options for Digest authentication (the nonces' random
 // secret, the size of the table that refuses a replayed nonce count), ended
-// by MHD_OPTION_END. Empty but for the end when authentication is off.
-std::vector<MHD_OptionItem> digest_options();
+// by MHD_OPTION_END, for each of `cameras` servers. Empty but for the end
+// when authentication is off.
+std::vector<MHD_OptionItem> digest_options(unsigned cameras);
 
 // At the top of a request's answer: true when the request may go on; else a
 // refusal has been queued and `result` holds what the access handler returns.

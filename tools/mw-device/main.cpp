@@ -7,6 +7,7 @@
  *             [--users FILE [--digest-algorithm sha256|md5] [--lockout-seconds N]]
  *             [--tls-cert FILE --tls-key FILE]
  *   mw-device --add-user FILE NAME ROLE
+ *             [--cameras N] [--first-id K]
  *   mw-device --fixed-body FILE [--listen ADDR] [--port N]
  *
  * The routes are in routes.h. Each page holds one live state (its records),
@@ -18,9 +19,15 @@
  * of an account in FILE and checks its role (auth.h); without it only a
  * loopback address is served. --tls-cert and --tls-key serve HTTPS.
  *
+ * --cameras N serves N cameras from one process, camera k on port
+ * --port + k - 1, each with its own identity and pages (camera.h, fleet.h);
+ * --first-id K numbers them from K, so that several processes serve
+ * cameras that never share an identity.
+ *
  * --fixed-body FILE answers every request with the file's bytes through the
  * same server set-up: the yardstick of the load test.
  */
+#include "fleet.h"
 #include "http.h"
 #include "options.h"
 #include "pages.h"
@@ -31,7 +38,6 @@
 #include <microhttpd.h>
 
 #include <arpa/inet.h>
-#include <netinet/in.h>
 #include <pthread.h>
 #include <signal.h>
 
@@ -87,9 +93,17 @@ int main(int argc, char **argv)
     sigaddset(&stop, SIGTERM);
     pthread_sigmask(SIG_BLOCK, &stop, nullptr);
 
-    MHD_AccessHandlerCallback handler = device::handle;
+    struct in_addr parsed {};
+    if (inet_pton(AF_INET, options.listen.c_str(), &parsed) != 1) {
+        fprintf(stderr, "mw-device: not an IPv4 address: %s\n", options.listen.c_str());
+        return 2;
+    }
+    device::raise_open_file_limit();
     device::Security security;
     security.options = {{MHD_OPTION_END, 0, nullptr}};
+    device::Fleet fleet;
+    struct MHD_Daemon *daemon = nullptr;
+    unsigned port = options.port;
     if (!options.fixedBody.empty()) {
         std::ifstream in(options.fixedBody, std::ios::binary);
         if (!in) {
@@ -99,12 +113,14 @@ int main(int argc, char **argv)
         std::stringstream text;
         text << in.rdbuf();
         fixedBody = text.str();
-        handler = handle_fixed;
+        daemon = device::start_server(options, options.port, options.threads, security, handle_fixed, nullptr);
+        if (daemon == nullptr) {
+            fprintf(stderr, "mw-device: cannot listen on %s:%u\n", options.listen.c_str(), options.port);
+            return 1;
+        }
+        port = device::bound_port(daemon, options.port);
     } else {
         device::load_pages();
-        device::set_state_dir(options.stateDir);
-        if (device::saving())
-            device::restore();
         device::RouteSettings routes;
         routes.webDir = options.webDir.empty() ? device::default_web_dir() : options.webDir;
         routes.requireIfMatch = options.requireIfMatch;
@@ -115,33 +131,21 @@ int main(int argc, char **argv)
             fprintf(stderr, "mw-device: %s\n", why.c_str());
             return status;
         }
+        if (!fleet.start(options, security, &why)) {
+            fprintf(stderr, "mw-device: %s\n", why.c_str());
+            return 1;
+        }
+        port = fleet.first_port();
     }
-
-    struct sockaddr_in address {};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(static_cast<uint16_t>(options.port));
-    if (inet_pton(AF_INET, options.listen.c_str(), &address.sin_addr) != 1) {
-        fprintf(stderr, "mw-device: not an IPv4 address: %s\n", options.listen.c_str());
-        return 2;
-    }
-    struct MHD_Daemon *daemon = MHD_start_daemon(
-        MHD_USE_INTERNAL_POLLING_THREAD | MHD_USE_EPOLL | MHD_USE_ERROR_LOG | security.flags,
-        static_cast<uint16_t>(options.port), nullptr, nullptr, handler, nullptr,
-        // Digest and TLS options first: they name the logger, which must come first.
-        MHD_OPTION_ARRAY, security.options.data(), MHD_OPTION_SOCK_ADDR, reinterpret_cast<struct sockaddr *>(&address),
-        MHD_OPTION_THREAD_POOL_SIZE, options.threads, MHD_OPTION_CONNECTION_TIMEOUT, options.timeout,
-        MHD_OPTION_CONNECTION_LIMIT, 1000u, MHD_OPTION_URI_LOG_CALLBACK, device::begin_request, nullptr,
-        MHD_OPTION_NOTIFY_COMPLETED, device::end_request, nullptr, MHD_OPTION_END);
-    if (daemon == nullptr) {
-        fprintf(stderr, "mw-device: cannot listen on %s:%u\n", options.listen.c_str(), options.port);
-        return 1;
-    }
-    const union MHD_DaemonInfo *bound = MHD_get_daemon_info(daemon, MHD_DAEMON_INFO_BIND_PORT);
-    printf("mw-device: %s://%s:%u/\n", security.scheme, options.listen.c_str(),
-           bound != nullptr ? bound->port : static_cast<unsigned>(options.port));
+    printf("mw-device: %s://%s:%u/\n", security.scheme, options.listen.c_str(), port);
+    if (options.cameras > 1)
+        printf("mw-device: %u cameras on ports %u to %u, listed at %s://%s:%u/fleet\n", options.cameras, port,
+               port + options.cameras - 1, security.scheme, options.listen.c_str(), port);
     fflush(stdout);
     int received = 0;
     sigwait(&stop, &received);
-    MHD_stop_daemon(daemon);
+    if (daemon != nullptr)
+        MHD_stop_daemon(daemon);
+    fleet.stop();
     return 0;
 }

@@ -55,6 +55,7 @@ const char *usage_text()
 {
     return "usage: mw-device [--listen ADDR] [--port N] [--state DIR] [--web DIR] [--threads N]\n"
            "                 [--timeout SECONDS] [--cors ORIGIN]... [--require-if-match]\n"
+           "                 [--cameras N] [--first-id K]\n"
            "                 [--users FILE [--digest-algorithm sha256|md5] [--lockout-seconds N]]\n"
            "                 [--tls-cert FILE --tls-key FILE]\n"
            "       mw-device --add-user FILE NAME ROLE   (the password on standard input;\n"
@@ -77,7 +78,7 @@ bool parse_options(int argc, char **argv, Options *options, std::string *error)
         static const char *const kValued[] = {"--listen",   "--port",     "--state",          "--web",
                                               "--threads",  "--timeout",  "--fixed-body",     "--cors",
                                               "--users",    "--tls-cert", "--tls-key",        "--digest-algorithm",
-                                              "--lockout-seconds"};
+                                              "--lockout-seconds", "--cameras", "--first-id"};
         bool known = false;
         for (const char *name : kValued)
             known = known || arg == name;
@@ -98,6 +99,19 @@ bool parse_options(int argc, char **argv, Options *options, std::string *error)
         } else if (arg == "--threads") {
             if (!number(value, 1, 256, &options->threads)) {
                 *error = "--threads wants a number from 1 to 256, not \"" + std::string(value) + "\"";
+                return false;
+            }
+            options->threadsGiven = true;
+        } else if (arg == "--cameras") {
+            if (!number(value, 1, kMaxCameras, &options->cameras)) {
+                *error = "--cameras wants a number from 1 to " + std::to_string(kMaxCameras) + ", not \"" +
+                         std::string(value) + "\"";
+                return false;
+            }
+        } else if (arg == "--first-id") {
+            if (!number(value, 1, kMaxCameraId, &options->firstId)) {
+                *error = "--first-id wants a number from 1 to " + std::to_string(kMaxCameraId) + ", not \"" +
+                         std::string(value) + "\"";
                 return false;
             }
         } else if (arg == "--timeout") {
@@ -143,6 +157,25 @@ bool parse_options(int argc, char **argv, Options *options, std::string *error)
     }
     if (options->tlsCert.empty() != options->tlsKey.empty()) {
         *error = "--tls-cert and --tls-key go together";
+        return false;
+    }
+    // Camera k listens on --port + k - 1: the ports must be known and exist.
+    if (options->cameras > 1 && options->port == 0) {
+        *error = "--cameras above 1 wants a --port to count from, not 0";
+        return false;
+    }
+    if (options->port + options->cameras - 1 > 65535) {
+        *error = "--cameras " + std::to_string(options->cameras) + " from --port " + std::to_string(options->port) +
+                 " runs past port 65535";
+        return false;
+    }
+    if (options->first_id() + options->cameras - 1 > kMaxCameraId) {
+        *error = "--first-id " + std::to_string(options->first_id()) + " with --cameras " +
+                 std::to_string(options->cameras) + " runs past camera " + std::to_string(kMaxCameraId);
+        return false;
+    }
+    if (!options->fixedBody.empty() && options->cameras > 1) {
+        *error = "--fixed-body serves one server, not --cameras";
         return false;
     }
     return true;

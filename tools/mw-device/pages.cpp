@@ -8,18 +8,26 @@ namespace device {
 
 namespace {
 
+// Every serving thread renders into a buffer of its own. Its memory is not
+// cleared, so only the bytes the largest document written so far reached are
+// resident: a thousand cameras' threads do not hold a mebibyte each.
 constexpr int32_t kRenderBuffer = 1 << 20;
-thread_local std::vector<char> renderBuffer(kRenderBuffer);
+struct RenderBuffer {
+    std::unique_ptr<char[]> bytes{new char[kRenderBuffer]};
+    char *data() { return bytes.get(); }
+};
+thread_local RenderBuffer renderBuffer;
 
-std::vector<std::unique_ptr<Page>> pages;
-std::map<std::string, Page *> byPath;
+std::vector<PageKind> kinds;
+std::map<std::string, int> byPath;
 std::string indexText;
 
 std::string make_index()
 {
     cJSON *root = cJSON_CreateObject();
     cJSON *list = cJSON_AddArrayToObject(root, "pages");
-    for (const auto &page : pages) {
+    for (const PageKind &k : kinds) {
+        const PageKind *page = &k;
         cJSON *item = cJSON_CreateObject();
         cJSON_AddStringToObject(item, "name", page->entry->name);
         cJSON_AddStringToObject(item, "path", page->path.c_str());
@@ -48,39 +56,51 @@ void load_pages()
             const CatalogEntry &entry = group->entries[k];
             if (entry.page == nullptr)
                 continue; // the reply envelopes are not pages
-            auto page = std::make_unique<Page>();
-            page->entry = &entry;
-            page->group = group->name;
-            page->path = "/api/" + openapi::resource_of(entry.name);
-            page->state.resize(entry.page->stateSize);
-            entry.page->initial(page->state.data());
-            byPath[page->path] = page.get();
-            pages.push_back(std::move(page));
+            PageKind page;
+            page.entry = &entry;
+            page.group = group->name;
+            page.path = "/api/" + openapi::resource_of(entry.name);
+            State sample(entry.page->stateSize);
+            entry.page->initial(sample.data());
+            page.sample = std::make_shared<const State>(std::move(sample));
+            byPath[page.path] = static_cast<int>(kinds.size());
+            kinds.push_back(std::move(page));
         }
     }
     indexText = make_index();
 }
 
-const std::vector<std::unique_ptr<Page>> &all_pages() { return pages; }
+const std::vector<PageKind> &page_kinds() { return kinds; }
 
-Page *find_page(const std::string &path)
+int page_index(const std::string &path)
 {
     const auto found = byPath.find(path);
-    return found == byPath.end() ? nullptr : found->second;
+    return found == byPath.end() ? -1 : found->second;
 }
 
 const std::string &index_document() { return indexText; }
 
 State snapshot(Page &page)
 {
-    std::lock_guard<std::mutex> hold(page.lock);
-    return page.state;
+    std::shared_ptr<const State> current;
+    {
+        std::lock_guard<std::mutex> hold(page.lock);
+        current = page.state;
+    }
+    return *current; // a published state never changes: copied outside the lock
 }
 
 void publish(Page &page, State state)
 {
+    auto own = std::make_shared<const State>(std::move(state));
     std::lock_guard<std::mutex> hold(page.lock);
-    page.state.swap(state);
+    page.state.swap(own);
+}
+
+bool shares_sample(Page &page)
+{
+    std::lock_guard<std::mutex> hold(page.lock);
+    return page.state == page.kind->sample;
 }
 
 Rendered render(const Page &page, State state, const Selection &selection, bool schema, std::string *out)

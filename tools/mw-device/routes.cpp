@@ -1,6 +1,7 @@
 #include "routes.h"
 
 #include "auth.h"
+#include "camera.h"
 #include "conditional.h"
 #include "http.h"
 #include "pages.h"
@@ -27,20 +28,28 @@ RouteSettings settings;
 
 // The index lists the pages; the OpenAPI document describes every route. It
 // is made once, at the first request for it (a quarter of a second).
-const std::string &openapi_document()
+// Both are the same for every camera. The fleet's list is served by the
+// first camera alone.
+const std::string &openapi_document(const Camera &)
 {
     static const std::string text = openapi::openapi_json();
     return text;
 }
 
+const std::string &index_of(const Camera &) { return index_document(); }
+
+const std::string &fleet_of(const Camera &camera) { return *camera.fleetDocument.load(); }
+
 struct DocumentRoute {
     const char *path;
-    const std::string &(*document)();
+    const std::string &(*document)(const Camera &);
+    bool firstCameraOnly;
 };
 const DocumentRoute kDocumentRoutes[] = {
-    {"/api", index_document},
-    {"/api/", index_document},
-    {"/api/openapi.json", openapi_document},
+    {"/api", index_of, false},
+    {"/api/", index_of, false},
+    {"/api/openapi.json", openapi_document, false},
+    {"/fleet", fleet_of, true},
 };
 
 /* ---- the browser page ---- */
@@ -64,7 +73,7 @@ struct Target {
     Page *page = nullptr;
 };
 
-Target locate(const std::string &path)
+Target locate(Camera &camera, const std::string &path)
 {
     Target t;
     for (const StaticFile &f : kFiles) {
@@ -75,7 +84,7 @@ Target locate(const std::string &path)
         }
     }
     for (const DocumentRoute &d : kDocumentRoutes) {
-        if (path == d.path) {
+        if (path == d.path && (!d.firstCameraOnly || camera.fleetDocument.load() != nullptr)) {
             t.kind = Target::a_document;
             t.document = &d;
             return t;
@@ -87,7 +96,7 @@ Target locate(const std::string &path)
         key.size() > suffix.size() && key.compare(key.size() - suffix.size(), suffix.size(), suffix) == 0;
     if (schema)
         key.resize(key.size() - suffix.size());
-    t.page = find_page(key);
+    t.page = camera.find(key);
     if (t.page != nullptr)
         t.kind = schema ? Target::a_schema : Target::a_page;
     return t;
@@ -203,7 +212,7 @@ Answer get_page(struct MHD_Connection *connection, Page &page, bool schema, cons
 // A set request: applied to a copy of the state, which replaces it once it is
 // accepted and saved. The page's other readers go on meanwhile from the state
 // as it was; only set requests of the same page wait.
-Answer post_page(struct MHD_Connection *connection, Page &page, const Request &request)
+Answer post_page(const Camera &camera, struct MHD_Connection *connection, Page &page, const Request &request)
 {
     if (request.tooLarge)
         return error(kTooLarge, "the body is over 64 KiB");
@@ -230,13 +239,13 @@ Answer post_page(struct MHD_Connection *connection, Page &page, const Request &r
     if (!apply(page, next, selection, request.body, &reply))
         return json(MHD_HTTP_BAD_REQUEST, reply);
     const bool rendered = render(page, next, selection, false, &document) == Rendered::ok;
-    if (saving()) {
+    if (saving(camera)) {
         // The saved document is the page as a GET without an argument shows it.
         std::string saved = document;
         const bool ready = selection.kind == Selection::none
                                ? rendered
                                : render(page, next, Selection{}, false, &saved) == Rendered::ok;
-        if (!ready || !save(page, saved))
+        if (!ready || !save(camera, page, saved))
             return json(MHD_HTTP_INTERNAL_SERVER_ERROR, set_failed());
     }
     publish(page, std::move(next));
@@ -246,10 +255,10 @@ Answer post_page(struct MHD_Connection *connection, Page &page, const Request &r
     return a;
 }
 
-Answer answer(struct MHD_Connection *connection, const std::string &verb, const std::string &path,
+Answer answer(Camera &camera, struct MHD_Connection *connection, const std::string &verb, const std::string &path,
               const Request &request)
 {
-    const Target target = locate(path);
+    const Target target = locate(camera, path);
     if (target.kind == Target::unknown)
         return error(MHD_HTTP_NOT_FOUND, "no such page");
     const char *allowed = methods_of(target);
@@ -274,13 +283,13 @@ Answer answer(struct MHD_Connection *connection, const std::string &verb, const 
     case Target::a_file:
         return static_file(connection, *target.file);
     case Target::a_document:
-        return conditional_get(connection, json(MHD_HTTP_OK, target.document->document()));
+        return conditional_get(connection, json(MHD_HTTP_OK, target.document->document(camera)));
     case Target::a_schema:
         return get_page(connection, *target.page, true, request);
     case Target::a_page:
         if (reading)
             return get_page(connection, *target.page, false, request);
-        return post_page(connection, *target.page, request);
+        return post_page(camera, connection, *target.page, request);
     case Target::unknown:
         break;
     }
@@ -304,7 +313,7 @@ void end_request(void *, struct MHD_Connection *, void **context, enum MHD_Reque
     *context = nullptr;
 }
 
-MHD_Result handle(void *, struct MHD_Connection *connection, const char *url, const char *method, const char *,
+MHD_Result handle(void *cls, struct MHD_Connection *connection, const char *url, const char *method, const char *,
                   const char *upload, size_t *uploadSize, void **context)
 {
     Request *request = static_cast<Request *>(*context);
@@ -326,9 +335,10 @@ MHD_Result handle(void *, struct MHD_Connection *connection, const char *url, co
         return MHD_YES;
     }
     MHD_Result refused = MHD_NO;
-    if (!admit(connection, method, url, &refused)) // accounts and roles (auth.h)
+    if (!admit(connection, method, url, &refused)) // accounts and roles (auth.h), the same for every camera
         return refused;
-    return send(connection, answer(connection, method, url, *request));
+    Camera &camera = *static_cast<Camera *>(cls);
+    return send(connection, answer(camera, connection, method, url, *request));
 }
 
 } // namespace device

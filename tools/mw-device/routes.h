@@ -9,6 +9,7 @@
  *                                  read-only page; 412 when If-Match names a tag that is no longer
  *                                  current; 428 without If-Match under --require-if-match
  *   GET  /api/<page>/schema        the page's JSON Schema
+ *   GET  /fleet                    on the first camera: {"cameras": [{"id", "url", "mac", "serial"}]}
  *
  * HEAD answers wherever GET does, with the same status and header fields and
  * no body; OPTIONS answers 204 with Allow (and, for an origin named with
@@ -44,7 +45,8 @@ struct Request {
 };
 
 // libmicrohttpd's callbacks: the URI as sent (a Request begins), the
-// request's answer, and its end (the Request is released).
+// request's answer, and its end (the Request is released). The answer's
+// `cls` is the Camera the server belongs to.
 void *begin_request(void *, const char *uri, struct MHD_Connection *);
 MHD_Result handle(void *, struct MHD_Connection *connection, const char *url, const char *method, const char *,
                   const char *upload, size_t *uploadSize, void **context);

@@ -61,7 +61,7 @@ bool prepare_security(const Options &options, Security *security, std::string *e
         return false;
     }
     set_cors_credentials(auth_on());
-    security->options = digest_options();
+    security->options = digest_options(options.cameras);
     if (!options.tlsCert.empty()) {
         if (!read_file(options.tlsCert, &security->cert) || !read_file(options.tlsKey, &security->key)) {
             *error = "cannot read " + options.tlsCert + " or " + options.tlsKey;

@@ -267,6 +267,10 @@ class Accounts(unittest.TestCase):
                                check=True, capture_output=True)
             fleet = Fleet(3, '--users', users)
             try:
+                listing = 'http://127.0.0.1:%d/fleet' % fleet.port(1)
+                self.assertEqual(requests.get(listing, timeout=10).status_code, 401)
+                self.assertEqual(len(requests.get(listing, timeout=10, auth=HTTPDigestAuth('vic', 'pw-vic'))
+                                     .json()['cameras']), 3)
                 for k in (1, 3):
                     url = 'http://127.0.0.1:%d/api/system_water_mark?format=json' % fleet.port(k)
                     self.assertEqual(requests.get(url, timeout=10).status_code, 401, k)

@@ -75,7 +75,12 @@ uint64_t seconds_now()
 
 MHD_DigestAuthAlgorithm algorithm() { return settings.md5 ? MHD_DIGEST_ALG_MD5 : MHD_DIGEST_ALG_SHA256; }
 
-bool under_api(const char *url) { return strncmp(url, "/api", 4) == 0 && (url[4] == '\0' || url[4] == '/'); }
+// What asks for a login: the API, and a fleet's list of its cameras (their
+// MAC addresses and serial numbers); the browser page's files do not.
+bool guarded(const char *url)
+{
+    return (strncmp(url, "/api", 4) == 0 && (url[4] == '\0' || url[4] == '/')) || strcmp(url, "/fleet") == 0;
+}
 
 std::string client_address(struct MHD_Connection *connection)
 {
@@ -200,7 +205,7 @@ std::vector<MHD_OptionItem> digest_options(unsigned cameras)
 
 bool admit(struct MHD_Connection *connection, const char *method, const char *url, MHD_Result *result)
 {
-    if (!auth_on() || strcmp(method, MHD_HTTP_METHOD_OPTIONS) == 0 || !under_api(url))
+    if (!auth_on() || strcmp(method, MHD_HTTP_METHOD_OPTIONS) == 0 || !guarded(url))
         return true;
     const std::string address = client_address(connection);
     const uint64_t now = seconds_now();

@@ -1,5 +1,6 @@
 #include "fleet.h"
 
+#include "http.h"
 #include "persistence.h"
 #include "routes.h"
 
@@ -70,11 +71,7 @@ std::string fleet_document(const std::vector<std::unique_ptr<Camera>> &cameras)
         cJSON_AddStringToObject(item, "serial", camera->identity().serial.c_str());
         cJSON_AddItemToArray(list, item);
     }
-    char *text = cJSON_Print(root);
-    std::string out = text;
-    cJSON_free(text);
-    cJSON_Delete(root);
-    return out;
+    return printed(root);
 }
 
 bool Fleet::start(const Options &options, const Security &security, std::string *why)

@@ -123,4 +123,13 @@ MHD_Result send(struct MHD_Connection *connection, const Answer &answer)
     return result;
 }
 
+std::string printed(cJSON *root)
+{
+    char *text = cJSON_Print(root);
+    std::string out = text != nullptr ? text : "";
+    cJSON_free(text);
+    cJSON_Delete(root);
+    return out;
+}
+
 } // namespace device

@@ -4,6 +4,7 @@
  */
 #pragma once
 
+#include <cjson/cJSON.h>
 #include <microhttpd.h>
 
 #include <string>
@@ -38,5 +39,9 @@ bool header_field(struct MHD_Connection *connection, const char *name, std::stri
 // (or null when out of memory).
 struct MHD_Response *make_response(struct MHD_Connection *connection, const Answer &answer);
 MHD_Result send(struct MHD_Connection *connection, const Answer &answer);
+
+// A document the simulator makes of its own (the index, the fleet's list),
+// printed as the library prints its documents; `root` is released.
+std::string printed(cJSON *root);
 
 } // namespace device

@@ -1,5 +1,7 @@
 #include "pages.h"
 
+#include "http.h"
+
 #include "openapi.h"
 
 #include <cstring>
@@ -40,11 +42,7 @@ std::string make_index()
             cJSON_AddStringToObject(item, "argument", page->entry->page->argumentName);
         cJSON_AddItemToArray(list, item);
     }
-    char *text = cJSON_Print(root);
-    std::string out = text;
-    cJSON_free(text);
-    cJSON_Delete(root);
-    return out;
+    return printed(root);
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/setup.sh
+source scripts/shards.sh
 
 echo "== build (plain)"
 bash scripts/build.sh build -DMW_TESTS=ON
@@ -33,21 +34,7 @@ export ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktra
 # The GoogleTest suite in two shards of one process each: started test by test
 # under the sanitizers, it spends most of its time starting and checking for
 # leaks at every exit. Then the other tests (the tools') under CTest.
-pids=()
-for shard in 0 1; do
-    GTEST_TOTAL_SHARDS=2 GTEST_SHARD_INDEX=$shard ./build-sanitize/tests/middleware_tests --gtest_brief=1 \
-        >"build-sanitize/shard-$shard.log" 2>&1 &
-    pids+=($!)
-done
-failed=0
-for shard in 0 1; do
-    if ! wait "${pids[$shard]}"; then
-        tail -n 80 "build-sanitize/shard-$shard.log"
-        failed=1
-    fi
-    grep -E '^\[  (PASSED|FAILED)  \]' "build-sanitize/shard-$shard.log" || true
-done
-[ "$failed" = 0 ]
+run_shards build-sanitize/shard ./build-sanitize/tests/middleware_tests
 ctest --test-dir build-sanitize --output-on-failure -j"$(nproc)" -L tools
 unset ASAN_OPTIONS UBSAN_OPTIONS
 
